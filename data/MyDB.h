@@ -1,0 +1,56 @@
+#pragma once
+
+#include "data/RowSet.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+struct sqlite3;
+
+namespace kavenda {
+
+class Log;
+class Paths;
+
+// The only door to the data: one SQLite file, copied once from the resources into the
+// documents folder, opened and closed again by every call. Nothing is raised to callers.
+class MyDB {
+public:
+    // The shared instance, made on the first call from the installed platform services.
+    static MyDB& initialize();
+
+    // Makes the working copy when none exists yet.
+    MyDB(std::string fileName, const Paths& paths, Log& log);
+    MyDB(const MyDB&) = delete;
+    MyDB& operator=(const MyDB&) = delete;
+
+    bool isExist() const;
+    std::string getDBPath() const;
+    bool copyDB();
+    int loadDB();
+
+    RowSet run(std::string_view sql);
+    RowSet Execute(std::string_view sql);
+    bool ExecuteNonQuery(std::string_view sql);
+    std::optional<std::string> ExecuteScaler(std::string_view sql);
+    static std::optional<std::string> getValue(const RowSet& rows, std::size_t rowNumber,
+                                               const std::string& coulumnName);
+
+    const std::string& fileName() const { return fileName_; }
+    const std::string& dbPath() const { return dbPath_; }
+    const std::vector<std::string>& columnList() const { return columnList_; }
+
+private:
+    void close();
+
+    const Paths& paths_;
+    Log& log_;
+    std::string fileName_;
+    std::string dbPath_;
+    sqlite3* database_ = nullptr;
+    std::vector<std::string> columnList_;
+};
+
+}  // namespace kavenda

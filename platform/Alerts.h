@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string>
+
+namespace kavenda {
+
+class Alerts {
+public:
+    virtual ~Alerts() = default;
+    // A message with one button; an empty title shows none.
+    virtual void show(const std::string& title, const std::string& message, const std::string& button) = 0;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <filesystem>
+
+namespace kavenda {
+
+class AudioPlayer {
+public:
+    virtual ~AudioPlayer() = default;
+    // False when the file cannot be opened; the previous sound is stopped either way.
+    virtual bool open(const std::filesystem::path& file) = 0;
+    virtual void play() = 0;
+    virtual void stop() = 0;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <chrono>
+
+namespace kavenda {
+
+// An absolute moment, to the second: what the phone platform calls a date.
+using Instant = std::chrono::sys_seconds;
+
+}  // namespace kavenda

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace kavenda {
+
+class Random {
+public:
+    virtual ~Random() = default;
+    // A uniform integer from 0 to n - 1.
+    virtual int uniform(int n) = 0;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,12 @@
+#pragma once
+
+namespace kavenda {
+
+class Screen {
+public:
+    virtual ~Screen() = default;
+    // 480 points, or 568 on a tall screen.
+    virtual int boundsHeight() const = 0;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+namespace kavenda {
+
+class UrlOpener {
+public:
+    virtual ~UrlOpener() = default;
+    virtual void open(const std::string& address) = 0;
+};
+
+}  // namespace kavenda

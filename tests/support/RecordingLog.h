@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Log.h"
+
+#include <string>
+#include <vector>
+
+namespace kavenda::test {
+
+class RecordingLog final : public Log {
+public:
+    void line(const std::string& text) override { lines.push_back(text); }
+    std::vector<std::string> lines;
+};
+
+}  // namespace kavenda::test

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/NotificationService.h"
+
+namespace kavenda::test {
+
+class RecordingNotificationService final : public NotificationService {
+public:
+    void cancelAll() override
+    {
+        records.clear();
+        ++cancelCalls;
+    }
+    void schedule(const NotificationRecord& record) override { records.push_back(record); }
+    std::vector<NotificationRecord> pending() const override { return records; }
+
+    std::vector<NotificationRecord> records;
+    int cancelCalls = 0;
+};
+
+}  // namespace kavenda::test

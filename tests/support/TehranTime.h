@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/Instant.h"
+
+namespace kavenda::test {
+
+// The instant of a civil date and time in Iran's zone as the tests' TZ=Asia/Tehran sees it.
+Instant tehran(int year, int month, int day, int hour = 0, int minute = 0, int second = 0);
+
+}  // namespace kavenda::test
