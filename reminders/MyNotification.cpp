@@ -1,0 +1,197 @@
+#include "reminders/MyNotification.h"
+
+#include "calendar/DateTimePersian.h"
+#include "calendar/Utility.h"
+#include "data/Format.h"
+#include "data/IntValue.h"
+#include "data/MyDB.h"
+#include "data/Statements.h"
+#include "platform/Clock.h"
+#include "platform/Log.h"
+#include "platform/NotificationService.h"
+#include "platform/PersianCalendar.h"
+#include "platform/Platform.h"
+#include "platform/Random.h"
+
+#include <algorithm>
+#include <array>
+
+namespace kavenda {
+
+namespace {
+
+constexpr int typeCount = 6;
+constexpr int occasionType = 6;
+constexpr int randomSound = 9;
+constexpr int recordingCount = 9;
+constexpr std::string_view offsetRowKey = "14000101";
+
+std::string settingName(int item)
+{
+    return format("Item%d", {item});
+}
+
+std::string typeColumn(int type)
+{
+    return format("%d", {type});
+}
+
+std::string valueOf(const RowSet& rows, std::size_t row, const std::string& column)
+{
+    return MyDB::getValue(rows, row, column).value_or("");
+}
+
+}  // namespace
+
+MyNotification& MyNotification::initialize()
+{
+    const Platform& platform = Platform::installed();
+    static MyNotification shared(MyDB::initialize(), *platform.clock, *platform.calendar,
+                                 *platform.notifications, *platform.random, *platform.log);
+    return shared;
+}
+
+MyNotification::MyNotification(MyDB& db, const Clock& clock, const PersianCalendar& calendar,
+                               NotificationService& notifications, Random& random, Log& log)
+    : db_(db), clock_(clock), calendar_(calendar), notifications_(notifications), random_(random), log_(log)
+{
+}
+
+void MyNotification::update()
+{
+    cancelAll();
+    const RowSet city = db_.Execute(sql::firstChosenCity);
+    if (city.empty())
+        return;
+    const RowSet settings = db_.Execute(sql::allSettings);
+    const int sound = intValue(valueOf(settings, 0, settingName(6)));
+    updateCalendarEvents(valueOf(settings, 0, settingName(7)));
+    schedulePrayerTimes(city, settings, sound);
+}
+
+void MyNotification::schedulePrayerTimes(const RowSet& city, const RowSet& settings, int sound)
+{
+    const bool isCenter = valueOf(city, 0, "IsCenter") == "1";
+    const std::string name = valueOf(city, 0, "Name");
+    const int cityId = intValue(valueOf(city, 0, "StateID"));
+    const int centreId =
+        isCenter ? cityId : intValue(db_.ExecuteScaler(formatSql(sql::provinceCentreOfCity, {cityId})).value_or(""));
+
+    const std::string today = DateTimePersian::init(clock_, calendar_).getPersianDate();
+    const RowSet times = db_.Execute(formatSql(sql::reminderTimes, {today, cityId, centreId}));
+
+    std::array<int, typeCount> offsets{};
+    std::size_t firstDay = 0;
+    if (centreId != cityId) {
+        // Without its own offset row first, the centre's times would be announced unshifted.
+        if (valueOf(times, 0, "StateID") != std::to_string(cityId) || valueOf(times, 0, "Date") != offsetRowKey)
+            return;
+        for (int type = 0; type < typeCount; ++type)
+            offsets[static_cast<std::size_t>(type)] = intValue(valueOf(times, 0, typeColumn(type)));
+        firstDay = 1;
+    }
+
+    const Instant now = clock_.now();
+    for (std::size_t row = firstDay; row < times.size(); ++row) {
+        for (int type = 0; type < typeCount; ++type) {
+            const int value = intValue(valueOf(settings, 0, settingName(type)));
+            if (value == 0)
+                continue;
+            Instant moment = getDate(valueOf(times, row, "Date"), valueOf(times, row, typeColumn(type)));
+            moment += std::chrono::minutes(offsets[static_cast<std::size_t>(type)]);
+            if (value >= 2)
+                moment -= std::chrono::minutes(value);
+            if (moment < now)
+                continue;
+            add(moment, name, type, value, sound);
+        }
+    }
+}
+
+void MyNotification::cancelAll()
+{
+    notifications_.cancelAll();
+}
+
+Instant MyNotification::getDate(std::string_view dateKey, std::string_view time) const
+{
+    const std::string shown = DateTimePersian::initWithPersianDate(dateKey, calendar_).formatHour(time);
+    return momentOf(dateKey, intValue(shown), intValue(std::string_view(shown).substr(3)));
+}
+
+Instant MyNotification::momentOf(std::string_view dateKey, int hour, int minute) const
+{
+    const auto date = DateTimePersian::initWithPersianDate(dateKey, calendar_);
+    return calendar_.instantOf(date.fullYear(), date.month(), date.day(), hour, minute);
+}
+
+void MyNotification::add(Instant moment, std::string_view cityName, int type, int value, int sound)
+{
+    const CivilTime civil = calendar_.gregorianFields(moment);
+    if (sound == randomSound)
+        sound = random_.uniform(recordingCount);
+
+    std::string soundName = format("%d.wav", {sound});
+    std::string body;
+    const std::string minutes = Utility::ConvertToPersian(format("%d", {value}));
+    switch (type) {
+    case 0:
+        body = format("اذان %@ به افق %@", {"صبح", cityName});
+        break;
+    case 1:
+        body = format("اذان %@ به افق %@", {"ظهر", cityName});
+        break;
+    case 2:
+        body = format("اذان %@ به افق %@", {"مغرب", cityName});
+        break;
+    case 3:
+        body = format("تا طلوع %@ تنها %@ دقیفه زمان باقیست", {"آفتاب", minutes});
+        soundName = "alarm.wav";
+        break;
+    case 4:
+        body = format("تا اذان %@ تنها %@ دقیفه زمان باقیست", {"صبح", minutes});
+        soundName = "11.wav";
+        break;
+    case 5:
+        body = format("تا اذان %@ تنها %@ دقیفه زمان باقیست", {"مغرب", minutes});
+        soundName = "12.wav";
+        break;
+    case occasionType:
+        body = format("وقایع امروز : \n%@", {cityName});
+        soundName = "times.wav";
+        break;
+    default:
+        return;
+    }
+
+    log_.line(format("%d %d %d / %d:%d - %d - %@",
+                     {civil.day, civil.month, civil.year, civil.hour, civil.minute, sound, soundName}));
+    notifications_.schedule(NotificationRecord{
+        moment, calendar_.timeZoneId(), body, "Ok", soundName, {{"someKey", "someValue"}}});
+}
+
+void MyNotification::updateCalendarEvents(std::string_view time)
+{
+    // Anything but a time with a colon means the announcements are off.
+    const std::size_t colon = time.find(':');
+    if (time == "0" || colon == std::string_view::npos)
+        return;
+    log_.line(std::string(time));
+
+    const std::string today = DateTimePersian::init(clock_, calendar_).getPersianDate();
+    const RowSet occasions = db_.Execute(formatSql(sql::comingOccasions, {today}));
+    const Instant now = clock_.now();
+    const int hour = intValue(time.substr(0, colon));
+    const int minute = intValue(time.substr(colon + 1));
+    for (std::size_t row = 0; row < occasions.size(); ++row) {
+        // The chosen time is already wall-clock time: no summer hour to add or take off.
+        const Instant moment = momentOf(valueOf(occasions, row, "Date"), hour, minute);
+        if (moment < now)
+            continue;
+        std::string text = valueOf(occasions, row, "Description");
+        std::replace(text.begin(), text.end(), '@', '-');
+        add(moment, text, occasionType, 0, 0);
+    }
+}
+
+}  // namespace kavenda
