@@ -1,0 +1,31 @@
+#pragma once
+
+#include "tools/icons/DayCalendar.h"
+#include "tools/icons/SourceTables.h"
+
+#include <string>
+#include <vector>
+
+namespace kavenda::icons {
+
+struct DayEvents {
+    std::vector<std::string> names;
+    bool holiday = false;
+};
+
+// The occasions of a day: the official list for the year it has one, otherwise the fixed
+// solar occasions and the lunar ones by the Hijri date.
+class OccasionCalendar {
+public:
+    OccasionCalendar(int officialYear, std::vector<Occasion> official, std::vector<Occasion> solar,
+                     std::vector<Occasion> lunar);
+    DayEvents on(const CalendarDay& day) const;
+
+private:
+    int officialYear_;
+    std::vector<Occasion> official_;
+    std::vector<Occasion> solar_;
+    std::vector<Occasion> lunar_;
+};
+
+}  // namespace kavenda::icons

@@ -1,0 +1,48 @@
+#include "tools/icons/SourceTables.h"
+
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace kavenda::icons {
+
+std::vector<std::vector<std::string>> readTable(const std::filesystem::path& file, std::size_t columns)
+{
+    std::ifstream in(file);
+    if (!in)
+        throw std::runtime_error("cannot read " + file.string());
+    std::vector<std::vector<std::string>> rows;
+    std::string line;
+    std::getline(in, line);
+    for (int number = 2; std::getline(in, line); ++number) {
+        if (line.empty())
+            continue;
+        std::vector<std::string> fields;
+        std::istringstream split(line);
+        for (std::string field; std::getline(split, field, '\t');)
+            fields.push_back(field);
+        if (fields.size() != columns)
+            throw std::runtime_error(file.string() + ":" + std::to_string(number) + ": expected " +
+                                     std::to_string(columns) + " fields");
+        rows.push_back(std::move(fields));
+    }
+    return rows;
+}
+
+std::vector<Province> readProvinces(const std::filesystem::path& file)
+{
+    std::vector<Province> provinces;
+    for (const auto& f : readTable(file, 5))
+        provinces.push_back({f[0], f[1], std::stod(f[2]), std::stod(f[3]), std::stod(f[4])});
+    return provinces;
+}
+
+std::vector<Occasion> readOccasions(const std::filesystem::path& file, std::size_t skippedColumns)
+{
+    std::vector<Occasion> occasions;
+    for (const auto& f : readTable(file, 4 + skippedColumns))
+        occasions.push_back({std::stoi(f[0]), std::stoi(f[1]), f[2 + skippedColumns] == "1", f[3 + skippedColumns]});
+    return occasions;
+}
+
+}  // namespace kavenda::icons
