@@ -34,6 +34,9 @@ inline constexpr std::string_view insertOffsetRow =
 // Times.
 inline constexpr std::string_view dayTimes =
     "SELECT Name, vTimes.*, Description FROM vTimes INNER JOIN tStates ON vTimes.StateID = tStates.StateID INNER JOIN tSelectedStates ON tSelectedStates.StateID = vTimes.StateID INNER JOIN tEvents ON tEvents.Date = vTimes.Date WHERE vTimes.Date='%@' AND tStates.StateID = %d ORDER BY Ordering DESC";
+// The day of a centre that is not chosen itself (the page of one of its cities).
+inline constexpr std::string_view dayTimesOfAnyCentre =
+    "SELECT Name, vTimes.*, Description FROM vTimes INNER JOIN tStates ON vTimes.StateID = tStates.StateID INNER JOIN tEvents ON tEvents.Date = vTimes.Date WHERE vTimes.Date='%@' AND tStates.StateID = %d";
 inline constexpr std::string_view cityOffsets =
     "SELECT T1 AS '1', T2 AS '2', T3 AS '3', T4 AS '4', T5 AS '5', T6 AS '6', T1 AS '7', T2 AS '8' FROM tTimes WHERE StateID = %d";
 inline constexpr std::string_view reminderTimes =

@@ -1,0 +1,50 @@
+#include "screens/main/DayPage.h"
+
+#include "calendar/DateTimePersian.h"
+#include "calendar/Utility.h"
+#include "data/Format.h"
+#include "screens/main/CityPages.h"
+
+namespace kavenda {
+
+namespace {
+
+constexpr int tallScreenTop = 44;
+constexpr int firstNextDayTime = 7;
+
+std::string valueOf(const Row& row, const std::string& key)
+{
+    const auto found = row.find(key);
+    return found == row.end() ? std::string() : found->second;
+}
+
+std::string firstOccasion(const std::string& description)
+{
+    const std::size_t at = description.find('@');
+    if (at == std::string::npos)
+        return description;
+    return format("%@ و ...", {std::string_view(description).substr(0, at)});
+}
+
+}  // namespace
+
+DayPage::DayPage(const Row& row, int index, DateTimePersian& date, int screenHeight)
+    : frame_{CityPages::pageWidth * index, screenHeight == tallScreenHeight ? tallScreenTop : 0, CityPages::pageWidth,
+             CityPages::pageHeight},
+      name_(valueOf(row, "Name")),
+      occasion_(Utility::ConvertToPersian(firstOccasion(valueOf(row, "Description")))),
+      date_(Utility::ConvertToPersian(date.getFullPersianDate()))
+{
+    for (int k = 1; k <= timeCount; ++k) {
+        const auto time = row.find(format("T%d", {k}));
+        if (time == row.end())
+            continue;
+        // The next day's times take the summer-hour rule of that day.
+        const int shift = k >= firstNextDayTime ? 1 : 0;
+        date.setDayOfYear(date.dayOfYear() + shift);
+        times_[static_cast<std::size_t>(k - 1)] = Utility::ConvertToPersian(date.formatHour(time->second));
+        date.setDayOfYear(date.dayOfYear() - shift);
+    }
+}
+
+}  // namespace kavenda

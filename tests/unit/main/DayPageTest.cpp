@@ -1,0 +1,101 @@
+#include "screens/main/DayPage.h"
+
+#include "calendar/DateTimePersian.h"
+#include "platform/IcuPersianCalendar.h"
+
+#include <gtest/gtest.h>
+
+namespace kavenda {
+namespace {
+
+constexpr int ordinaryScreen = 480;
+constexpr int tallScreen = 568;
+
+Row tehranRow(std::string description = "")
+{
+    return Row{{"Name", "تهران"}, {"T1", "4:53"}, {"T2", "6:20"}, {"T3", "12:05"}, {"T4", "17:49"},
+               {"T5", "18:08"}, {"T6", "23:21"}, {"T7", "4:54"}, {"T8", "6:21"},
+               {"Description", std::move(description)}, {"StateID", "32"}};
+}
+
+class DayPageTest : public ::testing::Test {
+protected:
+    DateTimePersian on(std::string_view key) const { return DateTimePersian::initWithPersianDate(key, calendar); }
+    IcuPersianCalendar calendar;
+};
+
+TEST_F(DayPageTest, FrameFollowsTheIndexAndTheScreenHeight)
+{
+    DateTimePersian date = on("920410");
+    EXPECT_EQ(DayPage(tehranRow(), 2, date, ordinaryScreen).frame(), (Frame{640, 0, 320, 460}));
+    EXPECT_EQ(DayPage(tehranRow(), 2, date, tallScreen).frame(), (Frame{640, 44, 320, 460}));
+    EXPECT_EQ(DayPage(tehranRow(), 0, date, 0).frame(), (Frame{0, 0, 320, 460}));
+}
+
+TEST_F(DayPageTest, OccasionShowsTheFirstOfSeveralWithPersianDigits)
+{
+    const std::vector<std::pair<std::string, std::string>> cases{
+        {"", ""},
+        {"عید نوروز", "عید نوروز"},
+        {"عید نوروز@آغاز سال نو@روز سوم", "عید نوروز و ..."},
+        {"سالروز 3 خرداد@دیگر", "سالروز ٣ خرداد و ..."},
+        {"روز 12 فروردین", "روز ١٢ فروردین"},
+        {"@", " و ..."},
+    };
+    DateTimePersian date = on("920101");
+    for (const auto& [description, shown] : cases)
+        EXPECT_EQ(DayPage(tehranRow(description), 0, date, ordinaryScreen).occasion(), shown) << description;
+}
+
+TEST_F(DayPageTest, NameDateAndTimesInPersianDigits)
+{
+    DateTimePersian date = on("920410");
+    const DayPage page(tehranRow(), 0, date, ordinaryScreen);
+    EXPECT_EQ(page.name(), "تهران");
+    EXPECT_EQ(page.date(), "١٠ تیر");
+    const std::vector<std::string> expected{"٠٥:٥٣", "٠٧:٢٠", "١٣:٠٥", "١٨:٤٩", "١٩:٠٨", "٠٠:٢١", "٠٥:٥٤", "٠٧:٢١"};
+    for (int k = 1; k <= DayPage::timeCount; ++k)
+        EXPECT_EQ(page.time(k), expected[static_cast<std::size_t>(k - 1)]) << k;
+}
+
+TEST_F(DayPageTest, SummerHourFollowsTheDayOfEachTime)
+{
+    struct Case {
+        int dayOfYear;
+        std::string dawn;
+        std::string nextDawn;
+    };
+    const std::vector<Case> cases{
+        {10, "٠٥:٥٣", "٠٥:٥٤"},
+        {184, "٠٥:٥٣", "٠٥:٥٤"},
+        {185, "٠٥:٥٣", "٠٤:٥٤"},  // the next day is past the summer hour
+        {200, "٠٤:٥٣", "٠٤:٥٤"},
+    };
+    for (const Case& c : cases) {
+        DateTimePersian date = on("920101");
+        date.setDayOfYear(c.dayOfYear);
+        const DayPage page(tehranRow(), 0, date, ordinaryScreen);
+        EXPECT_EQ(page.time(1), c.dawn) << c.dayOfYear;
+        EXPECT_EQ(page.time(7), c.nextDawn) << c.dayOfYear;
+        EXPECT_EQ(date.dayOfYear(), c.dayOfYear);  // shared with the other pages: left as it was
+    }
+}
+
+TEST_F(DayPageTest, NoSummerHourFrom1402)
+{
+    DateTimePersian date = on("1020110");
+    EXPECT_EQ(DayPage(tehranRow(), 0, date, ordinaryScreen).time(1), "٠٤:٥٣");
+}
+
+TEST_F(DayPageTest, ARowWithoutTimesShowsNameAndDateOnly)
+{
+    DateTimePersian date = on("920501");
+    const DayPage page(Row{{"Name", "مشهد"}, {"Description", ""}}, 1, date, ordinaryScreen);
+    EXPECT_EQ(page.name(), "مشهد");
+    EXPECT_EQ(page.date(), "٠١ مرداد");
+    for (int k = 1; k <= DayPage::timeCount; ++k)
+        EXPECT_EQ(page.time(k), "") << k;
+}
+
+}  // namespace
+}  // namespace kavenda
