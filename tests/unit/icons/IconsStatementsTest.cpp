@@ -1,4 +1,5 @@
 #include "data/Format.h"
+#include "data/IntValue.h"
 #include "data/Statements.h"
 #include "calendar/Utility.h"
 #include "platform/FixedClock.h"
@@ -75,6 +76,28 @@ TEST_F(IconsStatements, SearchesNameCitiesWithTheirProvince)
     ASSERT_EQ(tabriz.size(), 1u);
     EXPECT_EQ(tabriz[0].at("StateName"), "تبریز (آذربایجان شرقی)");
     EXPECT_EQ(db.Execute(formatSql(sql::searchProvinces, {"خراسان"})).size(), 3u);
+}
+
+TEST_F(IconsStatements, AUserCityTakesTheNextIdentifierAndStaysOutOfTheDays)
+{
+    constexpr int tehranProvince = 8;
+    const std::string viewRows = scalar("SELECT COUNT(*) FROM vTimes");
+    ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertCity, {"ورامین", tehranProvince})));
+    const int city = intValue(db.ExecuteScaler(sql::highestPlaceId).value_or("0"));
+    EXPECT_EQ(city, 63);
+    ASSERT_TRUE(db.ExecuteNonQuery(
+        formatSql(sql::insertOffsetRow, {city, "14000101", "-2", "-2", "-1", "0", "0", "-1"})));
+
+    EXPECT_EQ(db.ExecuteScaler(formatSql(sql::provinceCentreOfCity, {city})), "39");
+    const RowSet offsets = db.Execute(formatSql(sql::cityOffsets, {city}));
+    ASSERT_EQ(offsets.size(), 1u);
+    EXPECT_EQ(offsets[0].at("1"), "-2");
+    EXPECT_EQ(offsets[0].at("8"), "-2");
+    // The offset row is above every date key, so it never counts as anybody's next day.
+    EXPECT_EQ(scalar("SELECT COUNT(*) FROM vTimes"), viewRows);
+    // Keys compare as numbers: as texts, '14000101' would sort below '920101'.
+    EXPECT_EQ(scalar("SELECT COUNT(*) FROM tTimes WHERE StateID = 63 AND Date >= '920101'"), "1");
+    EXPECT_EQ(scalar("SELECT COUNT(*) FROM vTimes WHERE StateID = 63"), "0");
 }
 
 TEST_F(IconsStatements, ARebuildForTodayWithEverythingOn)
