@@ -26,6 +26,28 @@ constexpr int randomSound = 9;
 constexpr int recordingCount = 9;
 constexpr std::string_view offsetRowKey = "14000101";
 
+constexpr std::string_view callText = "اذان %@ به افق %@";
+constexpr std::string_view untilSunriseText = "تا طلوع %@ تنها %@ دقیفه زمان باقیست";
+constexpr std::string_view untilCallText = "تا اذان %@ تنها %@ دقیفه زمان باقیست";
+constexpr std::string_view occasionText = "وقایع امروز : \n%@";
+
+// The text of a reminder type and its first word. The calls play the chosen recitation and
+// name the city; the warnings have a sound of their own and tell their lead minutes.
+struct Kind {
+    std::string_view text;
+    std::string_view word;
+    std::string_view fixedSound;  // empty: the chosen recitation
+};
+
+constexpr std::array<Kind, typeCount> kinds{{
+    {callText, "صبح", ""},
+    {callText, "ظهر", ""},
+    {callText, "مغرب", ""},
+    {untilSunriseText, "آفتاب", "alarm.wav"},
+    {untilCallText, "صبح", "11.wav"},
+    {untilCallText, "مغرب", "12.wav"},
+}};
+
 std::string settingName(int item)
 {
     return format("Item%d", {item});
@@ -115,14 +137,14 @@ void MyNotification::cancelAll()
 
 Instant MyNotification::getDate(std::string_view dateKey, std::string_view time) const
 {
-    const std::string shown = DateTimePersian::initWithPersianDate(dateKey, calendar_).formatHour(time);
-    return momentOf(dateKey, intValue(shown), intValue(std::string_view(shown).substr(3)));
+    const auto day = DateTimePersian::initWithPersianDate(dateKey, calendar_);
+    const std::string shown = day.formatHour(time);
+    return momentOf(day, intValue(shown), intValue(std::string_view(shown).substr(3)));
 }
 
-Instant MyNotification::momentOf(std::string_view dateKey, int hour, int minute) const
+Instant MyNotification::momentOf(const DateTimePersian& day, int hour, int minute) const
 {
-    const auto date = DateTimePersian::initWithPersianDate(dateKey, calendar_);
-    return calendar_.instantOf(date.fullYear(), date.month(), date.day(), hour, minute);
+    return calendar_.instantOf(day.fullYear(), day.month(), day.day(), hour, minute);
 }
 
 void MyNotification::add(Instant moment, std::string_view cityName, int type, int value, int sound)
@@ -133,34 +155,16 @@ void MyNotification::add(Instant moment, std::string_view cityName, int type, in
 
     std::string soundName = format("%d.wav", {sound});
     std::string body;
-    const std::string minutes = Utility::ConvertToPersian(format("%d", {value}));
-    switch (type) {
-    case 0:
-        body = format("اذان %@ به افق %@", {"صبح", cityName});
-        break;
-    case 1:
-        body = format("اذان %@ به افق %@", {"ظهر", cityName});
-        break;
-    case 2:
-        body = format("اذان %@ به افق %@", {"مغرب", cityName});
-        break;
-    case 3:
-        body = format("تا طلوع %@ تنها %@ دقیفه زمان باقیست", {"آفتاب", minutes});
-        soundName = "alarm.wav";
-        break;
-    case 4:
-        body = format("تا اذان %@ تنها %@ دقیفه زمان باقیست", {"صبح", minutes});
-        soundName = "11.wav";
-        break;
-    case 5:
-        body = format("تا اذان %@ تنها %@ دقیفه زمان باقیست", {"مغرب", minutes});
-        soundName = "12.wav";
-        break;
-    case occasionType:
-        body = format("وقایع امروز : \n%@", {cityName});
+    if (type == occasionType) {
+        body = format(occasionText, {cityName});
         soundName = "times.wav";
-        break;
-    default:
+    } else if (type >= 0 && type < typeCount) {
+        const Kind& kind = kinds[static_cast<std::size_t>(type)];
+        const std::string minutes = Utility::ConvertToPersian(format("%d", {value}));
+        body = format(kind.text, {kind.word, kind.fixedSound.empty() ? cityName : std::string_view(minutes)});
+        if (!kind.fixedSound.empty())
+            soundName = kind.fixedSound;
+    } else {
         return;
     }
 
@@ -185,7 +189,8 @@ void MyNotification::updateCalendarEvents(std::string_view time)
     const int minute = intValue(time.substr(colon + 1));
     for (std::size_t row = 0; row < occasions.size(); ++row) {
         // The chosen time is already wall-clock time: no summer hour to add or take off.
-        const Instant moment = momentOf(valueOf(occasions, row, "Date"), hour, minute);
+        const Instant moment =
+            momentOf(DateTimePersian::initWithPersianDate(valueOf(occasions, row, "Date"), calendar_), hour, minute);
         if (moment < now)
             continue;
         std::string text = valueOf(occasions, row, "Description");

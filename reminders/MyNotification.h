@@ -9,6 +9,7 @@
 namespace kavenda {
 
 class Clock;
+class DateTimePersian;
 class Log;
 class MyDB;
 class NotificationService;
@@ -36,7 +37,7 @@ public:
 
 private:
     void schedulePrayerTimes(const RowSet& city, const RowSet& settings, int sound);
-    Instant momentOf(std::string_view dateKey, int hour, int minute) const;
+    Instant momentOf(const DateTimePersian& day, int hour, int minute) const;
 
     MyDB& db_;
     const Clock& clock_;
