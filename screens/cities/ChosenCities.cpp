@@ -1,0 +1,86 @@
+#include "screens/cities/ChosenCities.h"
+
+#include "data/Format.h"
+#include "data/MyDB.h"
+#include "data/Statements.h"
+#include "screens/cities/PlaceRows.h"
+#include "screens/cities/SelectionControllerDelegate.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace kavenda {
+
+ChosenCities::ChosenCities(MyDB& db, std::function<void()> rebuildReminders)
+    : db_(db), rebuildReminders_(std::move(rebuildReminders))
+{
+}
+
+void ChosenCities::updateDataSource()
+{
+    datasource_ = db_.Execute(sql::chosenCitiesWithProvince);
+}
+
+int ChosenCities::stateIdAt(int row) const
+{
+    return kavenda::stateIdAt(datasource_, static_cast<std::size_t>(row));
+}
+
+std::string ChosenCities::nameAt(int row) const
+{
+    return stateNameAt(datasource_, static_cast<std::size_t>(row));
+}
+
+int ChosenCities::listHeight() const
+{
+    return count() < 7 ? minimumListHeight : rowHeight * count();
+}
+
+void ChosenCities::remove(int row)
+{
+    if (row < 0 || row >= count())
+        return;
+    const int id = stateIdAt(row);
+    db_.ExecuteNonQuery(formatSql(sql::deleteChosenCity, {id}));
+    if (id >= firstUserCityId) {
+        db_.ExecuteNonQuery(formatSql(sql::deletePlace, {id}));
+        db_.ExecuteNonQuery(formatSql(sql::deletePlaceTimes, {id}));
+    }
+    updateDataSource();
+}
+
+int ChosenCities::targetRow(int proposed) const
+{
+    return std::clamp(proposed, 0, std::max(count() - 1, 0));
+}
+
+void ChosenCities::move(int from, int to)
+{
+    if (from < 0 || from >= count())
+        return;
+    to = targetRow(to);
+    const auto first = datasource_.begin();
+    if (to > from)
+        std::rotate(first + from, first + from + 1, first + to + 1);
+    else if (to < from)
+        std::rotate(first + to, first + from, first + from + 1);
+    // Every row is renumbered, moved or not, so earlier gaps in the numbering disappear.
+    for (int k = 0; k < count(); ++k)
+        db_.ExecuteNonQuery(formatSql(sql::updateOrdering, {k, stateIdAt(k)}));
+}
+
+bool ChosenCities::appear()
+{
+    updateDataSource();
+    const bool openSearch = count() == 0 && !firstTime_;
+    firstTime_ = true;
+    return openSearch;
+}
+
+void ChosenCities::Done(SelectionControllerDelegate& delegate)
+{
+    rebuildReminders_();
+    delegate.closeForm();
+}
+
+}  // namespace kavenda

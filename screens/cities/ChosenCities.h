@@ -1,0 +1,62 @@
+#pragma once
+
+#include "data/RowSet.h"
+
+#include <functional>
+#include <string>
+
+namespace kavenda {
+
+class MyDB;
+class SelectionControllerDelegate;
+
+// The chosen cities in the user's order, and what the city list decides about them: removing
+// (with the places the user made), reordering, the enabled states that hang on the count, the
+// list's size, and the single automatic opening of the search.
+class ChosenCities {
+public:
+    // Identifiers from here on belong to cities the user made; removing one deletes the place.
+    static constexpr int firstUserCityId = 63;
+    static constexpr int rowHeight = 44;
+    static constexpr int minimumListHeight = 308;
+    static constexpr int listWidth = 312;
+
+    ChosenCities(MyDB& db, std::function<void()> rebuildReminders);
+
+    void updateDataSource();
+    const RowSet& datasource() const { return datasource_; }
+    int count() const { return static_cast<int>(datasource_.size()); }
+    int stateIdAt(int row) const;
+    std::string nameAt(int row) const;
+
+    // Done, and tabs 1 to 3 of the options, need at least one chosen city.
+    bool canFinish() const { return count() > 0; }
+    bool preferencesEnabled() const { return count() > 0; }
+    // Only the first city, the one whose times are announced, keeps the default colour.
+    static bool isDimmed(int row) { return row > 0; }
+
+    // Every row is shown: at least seven rows' worth, taller lists scroll in their holder.
+    int listHeight() const;
+    int scrollContentHeight() const { return listHeight() + 1; }
+
+    void remove(int row);
+    // A drop past the end lands on the last row.
+    int targetRow(int proposed) const;
+    // Moves a row and renumbers every chosen city 0..n-1 in list order; the list is not re-read.
+    void move(int from, int to);
+
+    // Each appearance re-reads the list; true when the search should open by itself, which
+    // happens only on the first appearance and only while no city is chosen.
+    bool appear();
+
+    // Rebuilds the reminders for the new first city, then lets the main screen close the options.
+    void Done(SelectionControllerDelegate& delegate);
+
+private:
+    MyDB& db_;
+    std::function<void()> rebuildReminders_;
+    RowSet datasource_;
+    bool firstTime_ = false;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,166 @@
+#include "screens/cities/ChosenCities.h"
+
+#include "screens/cities/SelectionControllerDelegate.h"
+#include "tests/unit/cities/CitiesFixture.h"
+
+#include <gtest/gtest.h>
+
+namespace kavenda {
+namespace {
+
+// Remembers how many reminder rebuilds had run when the options were closed.
+struct ClosingDelegate final : SelectionControllerDelegate {
+    explicit ClosingDelegate(const int& rebuildCount) : rebuilds(rebuildCount) {}
+    void closeForm() override { rebuildsAtClose.push_back(rebuilds); }
+    const int& rebuilds;
+    std::vector<int> rebuildsAtClose;
+};
+
+class ChosenCitiesTest : public test::CitiesFixture {
+protected:
+    std::vector<std::string> names()
+    {
+        std::vector<std::string> found;
+        for (int row = 0; row < cities.count(); ++row)
+            found.push_back(cities.nameAt(row));
+        return found;
+    }
+
+    int rebuilds = 0;
+    ChosenCities cities{db, [this] { ++rebuilds; }};
+};
+
+TEST_F(ChosenCitiesTest, ListsTheChosenCitiesWithTheirProvinceInAscendingOrdering)
+{
+    choose(35, 7);
+    choose(32, 2);
+    choose(63, 5);
+    cities.updateDataSource();
+    EXPECT_EQ(names(), (std::vector<std::string>{"تهران (تهران)", "شهریار (تهران)", "کرمان (کرمان)"}));
+    EXPECT_EQ(cities.stateIdAt(1), 63);
+}
+
+TEST_F(ChosenCitiesTest, RemovingAShippedCityKeepsItsPlaceAndOffsetRow)
+{
+    choose(62, 0);
+    choose(32, 1);
+    cities.updateDataSource();
+    cities.remove(0);
+    EXPECT_EQ(orderings(), (std::vector<std::string>{"32:1"}));
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 62"), 1);
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 62"), 1);
+    EXPECT_EQ(names(), (std::vector<std::string>{"تهران (تهران)"}));
+}
+
+TEST_F(ChosenCitiesTest, RemovingAUserMadeCityDeletesItsPlaceAndOffsetRow)
+{
+    choose(32, 0);
+    choose(63, 1);
+    const int centreDays = countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 32");
+    cities.updateDataSource();
+    cities.remove(1);
+    EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0"}));
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 63"), 0);
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 63"), 0);
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 32"), centreDays) << "the centre's days stay";
+}
+
+TEST_F(ChosenCitiesTest, MovesRenumberEveryCityInListOrder)
+{
+    // W, X, Y, Z = 32, 33, 35, 36 with gaps in their numbering.
+    struct Case {
+        int from, to;
+        std::vector<std::string> expected;
+    };
+    const std::vector<Case> cases = {
+        {0, 2, {"33:0", "35:1", "32:2", "36:3"}},
+        {3, 1, {"32:0", "36:1", "33:2", "35:3"}},
+        {1, 1, {"32:0", "33:1", "35:2", "36:3"}},
+        {1, 9, {"32:0", "35:1", "36:2", "33:3"}},
+    };
+    for (const Case& c : cases) {
+        ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tSelectedStates"));
+        choose(32, 1);
+        choose(33, 2);
+        choose(35, 5);
+        choose(36, 9);
+        cities.updateDataSource();
+        cities.move(c.from, c.to);
+        EXPECT_EQ(orderings(), c.expected) << c.from << " to " << c.to;
+        // The held list follows the move without a re-read.
+        ASSERT_EQ(cities.count(), 4);
+        for (int row = 0; row < 4; ++row)
+            EXPECT_EQ(std::to_string(cities.stateIdAt(row)) + ":" + std::to_string(row), c.expected[static_cast<std::size_t>(row)]);
+    }
+}
+
+TEST_F(ChosenCitiesTest, DropsPastTheEndLandOnTheLastRow)
+{
+    choose(32, 0);
+    choose(33, 1);
+    cities.updateDataSource();
+    EXPECT_EQ(cities.targetRow(5), 1);
+    EXPECT_EQ(cities.targetRow(-1), 0);
+    EXPECT_EQ(cities.targetRow(1), 1);
+}
+
+TEST_F(ChosenCitiesTest, DoneAndThePreferenceTabsFollowTheCount)
+{
+    cities.updateDataSource();
+    EXPECT_FALSE(cities.canFinish());
+    EXPECT_FALSE(cities.preferencesEnabled());
+    choose(32, 0);
+    cities.updateDataSource();
+    EXPECT_TRUE(cities.canFinish());
+    EXPECT_TRUE(cities.preferencesEnabled());
+    cities.remove(0);
+    EXPECT_FALSE(cities.canFinish());
+    EXPECT_FALSE(cities.preferencesEnabled());
+}
+
+TEST_F(ChosenCitiesTest, OnlyTheFirstRowKeepsTheDefaultColour)
+{
+    EXPECT_FALSE(ChosenCities::isDimmed(0));
+    EXPECT_TRUE(ChosenCities::isDimmed(1));
+    EXPECT_TRUE(ChosenCities::isDimmed(6));
+}
+
+TEST_F(ChosenCitiesTest, TheListShowsEveryRowAndAtLeastSevenRowsWorth)
+{
+    const std::vector<std::pair<int, int>> heights = {{0, 308}, {6, 308}, {7, 308}, {8, 352}, {10, 440}};
+    ASSERT_TRUE(db.ExecuteNonQuery("INSERT INTO tStates(StateID, Name, ParentID) VALUES (70, 'الف', 1), (71, 'ب', 1), "
+                                   "(72, 'پ', 1), (73, 'ت', 1), (74, 'ث', 1)"));
+    const int cityIds[] = {32, 33, 35, 36, 62, 63, 70, 71, 72, 73, 74};
+    for (const auto& [n, height] : heights) {
+        ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tSelectedStates"));
+        for (int i = 0; i < n; ++i)
+            choose(cityIds[i], i);
+        cities.updateDataSource();
+        ASSERT_EQ(cities.count(), n);
+        EXPECT_EQ(cities.listHeight(), height) << n << " cities";
+        EXPECT_EQ(cities.scrollContentHeight(), height + 1) << n << " cities";
+    }
+}
+
+TEST_F(ChosenCitiesTest, TheSearchOpensByItselfOnlyOnTheFirstAppearanceWithoutCities)
+{
+    EXPECT_TRUE(cities.appear());
+    EXPECT_FALSE(cities.appear()) << "not again after the search was left without a choice";
+
+    ChosenCities withCity(db, [] {});
+    choose(32, 0);
+    EXPECT_FALSE(withCity.appear());
+    ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tSelectedStates"));
+    EXPECT_FALSE(withCity.appear()) << "emptied later, the list never opens the search itself";
+}
+
+TEST_F(ChosenCitiesTest, DoneRebuildsTheRemindersBeforeClosing)
+{
+    ClosingDelegate delegate(rebuilds);
+    cities.Done(delegate);
+    cities.Done(delegate);
+    EXPECT_EQ(delegate.rebuildsAtClose, (std::vector<int>{1, 2}));
+}
+
+}  // namespace
+}  // namespace kavenda

@@ -1,0 +1,110 @@
+#include "screens/cities/CitySearch.h"
+
+#include "screens/cities/ChosenCities.h"
+#include "screens/cities/SearchControllerDelegate.h"
+#include "tests/unit/cities/CitiesFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace kavenda {
+namespace {
+
+struct RecordingSearchDelegate final : SearchControllerDelegate {
+    void closeForm() override { calls.push_back("closeForm"); }
+    void setProvince(int provinceId, const std::string& provinceName) override
+    {
+        calls.push_back("setProvince " + std::to_string(provinceId) + " " + provinceName);
+    }
+    std::vector<std::string> calls;
+};
+
+class CitySearchTest : public test::CitiesFixture {
+protected:
+    static std::vector<std::string> names(const CitySearch& search)
+    {
+        std::vector<std::string> found;
+        for (int row = 0; row < search.count(); ++row)
+            found.push_back(search.nameAt(row));
+        std::sort(found.begin(), found.end());
+        return found;
+    }
+
+    CitySearch cities{db};
+    CitySearch provinces{db, CitySearch::provinceMode};
+    RecordingSearchDelegate delegate;
+};
+
+TEST_F(CitySearchTest, AnEmptyTextListsEveryCandidateOfTheMode)
+{
+    choose(32, 0);
+    cities.textDidChange("");
+    provinces.textDidChange("");
+    EXPECT_EQ(names(cities), (std::vector<std::string>{"اصفهان (اصفهان)", "شهریار (تهران)", "کاشان (اصفهان)",
+                                                       "کرمان (کرمان)", "یزد (یزد)"}))
+        << "no chosen city and no province";
+    EXPECT_EQ(names(provinces), (std::vector<std::string>{"اصفهان", "تهران", "کرمان", "یزد"}))
+        << "provinces whether or not one of their cities is chosen";
+}
+
+TEST_F(CitySearchTest, TypedTextMatchesCityAndProvinceNamesWithPersianLetterForms)
+{
+    struct Case {
+        const char* typed;
+        std::vector<std::string> expected;
+    };
+    const std::vector<Case> cases = {
+        {"تهر", {"شهریار (تهران)", "تهران (تهران)"}},               // the province's name lists its cities
+        {"\u0643\u0631\u0645", {"کرمان (کرمان)"}},                  // Arabic kaf
+        {"\u064A\u0632\u062F", {"یزد (یزد)"}},                      // Arabic yeh
+        {"\u0634\u0647\u0631\u064A", {"شهریار (تهران)"}},           // Arabic yeh inside a word
+        {"'", {}},                                                  // a quote is a letter like any other
+        {"x' OR '1'='1", {}},
+        {"%", {"اصفهان (اصفهان)", "تهران (تهران)", "شهریار (تهران)", "کاشان (اصفهان)", "کرمان (کرمان)", "یزد (یزد)"}},
+    };
+    for (const Case& c : cases) {
+        cities.textDidChange(c.typed);
+        auto expected = c.expected;
+        std::sort(expected.begin(), expected.end());
+        EXPECT_EQ(names(cities), expected) << c.typed;
+    }
+    provinces.textDidChange("\u06A9\u0631\u0645\u0627\u0646");
+    EXPECT_EQ(names(provinces), (std::vector<std::string>{"کرمان"}));
+    cities.textDidChange("تهران");
+    EXPECT_EQ(cities.count(), 2) << "a quote earlier leaves later searches working";
+}
+
+TEST_F(CitySearchTest, TheFirstChoiceGetsOrderingOne)
+{
+    cities.textDidChange("یزد");
+    cities.pick(0, delegate);
+    EXPECT_EQ(orderings(), (std::vector<std::string>{"36:1"}));
+    EXPECT_EQ(delegate.calls, (std::vector<std::string>{"closeForm"}));
+    cities.textDidChange("یزد");
+    EXPECT_EQ(cities.count(), 0) << "a chosen city is no candidate any more";
+}
+
+TEST_F(CitySearchTest, AChoiceAfterAMoveComesAfterEveryRenumberedCity)
+{
+    choose(32, 0);
+    choose(33, 4);
+    choose(35, 9);
+    ChosenCities list(db, [] {});
+    list.updateDataSource();
+    list.move(2, 0);
+    cities.addState(36);
+    EXPECT_EQ(orderings(), (std::vector<std::string>{"35:0", "32:1", "33:2", "36:4"}));
+}
+
+TEST_F(CitySearchTest, ProvinceModeHandsTheProvinceBackAndAddsNothing)
+{
+    provinces.textDidChange("اصف");
+    ASSERT_EQ(provinces.count(), 1);
+    provinces.pick(0, delegate);
+    EXPECT_EQ(delegate.calls, (std::vector<std::string>{"setProvince 2 اصفهان", "closeForm"}));
+    EXPECT_TRUE(orderings().empty());
+}
+
+}  // namespace
+}  // namespace kavenda
