@@ -117,14 +117,45 @@ TEST_F(Reminders, AnOffsetCityIsShiftedPerColumnForFourDays)
     EXPECT_EQ(records[23].fireDate, tehran(2013, 11, 14, 17, 24));  // the fourth day is the last
 }
 
-TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowGetsNoPrayerTimes)
+TEST_F(Reminders, TheFirstCityOfTheListIsAnnounced)
 {
-    ASSERT_TRUE(db().ExecuteNonQuery("DELETE FROM tTimes WHERE StateID = 63"));
-    choose(63);
-    settings("Item7 = '08:00'");
+    ASSERT_TRUE(db().ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(32, 2), (33, 1)"));
+    settings("Item0 = 1, Item1 = 0, Item2 = 0");
     const auto records = update();
-    EXPECT_TRUE(withSound("0.wav").empty());
-    EXPECT_FALSE(withSound("times.wav").empty());
+    ASSERT_EQ(records.size(), 5u);
+    EXPECT_EQ(records[0].alertBody, "اذان صبح به افق اصفهان");
+    EXPECT_EQ(records[0].fireDate, tehran(2013, 5, 22, 5, 56));  // اصفهان's 4:56 on 920301
+}
+
+// Without its own offset row first, a non-centre city would be announced with its centre's
+// times unshifted, or with an offset read from a day's times.
+TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
+{
+    const struct {
+        const char* name;
+        int city;
+        const char* change;
+    } cases[] = {
+        {"no offset row", 63, "DELETE FROM tTimes WHERE StateID = 63"},
+        {"a day's row instead", 63,
+         "UPDATE tTimes SET Date = 920301, T1 = '4:30', T3 = '11:50', T5 = '19:40' WHERE StateID = 63"},
+        {"an id below its centre's", 20,
+         "INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES(20, 'اسلامشهر', 1, 0);"
+         " INSERT INTO tTimes VALUES(20, 14000101, 1, 1, 1, 1, 1, 1)"},
+    };
+    for (const auto& c : cases) {
+        test::TempFolder folder;
+        const FixedPaths own(folder.path() / "documents", folder.path() / "resources");
+        const auto file = test::buildFixtureDatabase(own.resourceFolder(), {"fixture-data.sql", "offset-city.sql"});
+        test::execSql(file, c.change);
+        test::execSql(file, "INSERT INTO tSelectedStates VALUES(" + std::to_string(c.city) +
+                                ", 1); UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item7 = '08:00'");
+        MyDB ownDb("Icons", own, log);
+        notifications.records.clear();
+        MyNotification(ownDb, clock, calendar, notifications, random, log).update();
+        EXPECT_TRUE(withSound("0.wav").empty()) << c.name;
+        EXPECT_EQ(withSound("times.wav").size(), 5u) << c.name;
+    }
 }
 
 TEST_F(Reminders, EachReminderTakesTheSummerHourOfItsOwnDay)
@@ -181,6 +212,11 @@ TEST_F(Reminders, SoundChoices)
     ASSERT_EQ(drawn.size(), 15u);
     EXPECT_EQ(drawn[0], "3.wav");
     EXPECT_EQ(drawn[1], "7.wav");
+    // The log shows the number drawn, also beside a fixed sound; occasions keep sound 0.
+    ASSERT_EQ(log.lines.size(), 26u);
+    EXPECT_EQ(log.lines[1], "23 5 2013 / 8:0 - 0 - times.wav");
+    EXPECT_EQ(log.lines[6], "22 5 2013 / 5:40 - 3 - 3.wav");
+    EXPECT_EQ(log.lines[9], "22 5 2013 / 7:2 - 3 - alarm.wav");
     // A draw is made for every record, also those with a fixed sound, occasions excepted.
     EXPECT_EQ(random.draws, 20);
     EXPECT_EQ(withSound("alarm.wav").size(), 5u);
