@@ -1,0 +1,94 @@
+// A rebuild on the generated database for 1 Azar 1405 (22 November 2026), with every reminder
+// on: the times announced are the stored ones, as no summer hour is kept any more.
+#include "reminders/MyNotification.h"
+
+#include "data/Format.h"
+#include "data/Statements.h"
+#include "platform/FixedClock.h"
+#include "platform/IcuPersianCalendar.h"
+#include "tests/support/RecordingNotificationService.h"
+#include "tests/support/ScriptedRandom.h"
+#include "tests/support/TehranTime.h"
+#include "tests/unit/icons/ShippedIcons.h"
+
+namespace kavenda {
+namespace {
+
+using test::tehran;
+
+constexpr int tehranCentre = 39;
+constexpr int tehranProvince = 8;
+
+class ShippedReminders : public test::ShippedIcons {
+protected:
+    ShippedReminders()
+    {
+        db.ExecuteNonQuery("UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 10, Item4 = 20, "
+                           "Item5 = 15, Item7 = '08:00'");
+    }
+
+    std::vector<NotificationRecord> updateFor(int city)
+    {
+        db.ExecuteNonQuery(formatSql(sql::insertChosenCity, {city, 1}));
+        MyNotification(db, clock, calendar, notifications, random, log).update();
+        return notifications.records;
+    }
+
+    // The wall-clock moment of a stored time of a day of Azar 1405, shifted by some minutes.
+    Instant stored(int day, const std::string& column, int shift = 0)
+    {
+        const std::string key = format("10509%02d", {day});
+        const std::string time = scalar("SELECT " + column + " FROM tTimes WHERE StateID = 39 AND Date = " + key);
+        const std::size_t colon = time.find(':');
+        return tehran(2026, 11, 21 + day, std::stoi(time.substr(0, colon)), std::stoi(time.substr(colon + 1))) +
+               std::chrono::minutes(shift);
+    }
+
+    FixedClock clock{tehran(2026, 11, 22, 0, 1)};
+    IcuPersianCalendar calendar;
+    test::RecordingNotificationService notifications;
+    test::ScriptedRandom random{{0}};
+};
+
+TEST_F(ShippedReminders, ACentreGetsFiveOccasionsAndThirtyPrayerTimes)
+{
+    const auto records = updateFor(tehranCentre);
+    ASSERT_EQ(records.size(), 35u);
+    const int occasionDays[] = {2, 5, 7, 9, 16};
+    for (std::size_t i = 0; i < 5; ++i) {
+        EXPECT_EQ(records[i].soundName, "times.wav");
+        EXPECT_EQ(records[i].fireDate, tehran(2026, 11, 21 + occasionDays[i], 8, 0)) << i;
+    }
+    EXPECT_EQ(records[5].alertBody, "اذان صبح به افق تهران");
+    for (int day = 1; day <= 5; ++day) {
+        const auto at = records.begin() + 5 + 6 * (day - 1);
+        EXPECT_EQ(at[0].fireDate, stored(day, "T1")) << day;
+        EXPECT_EQ(at[1].fireDate, stored(day, "T3")) << day;
+        EXPECT_EQ(at[2].fireDate, stored(day, "T5")) << day;
+        EXPECT_EQ(at[3].fireDate, stored(day, "T2", -10)) << day;
+        EXPECT_EQ(at[4].fireDate, stored(day, "T1", -20)) << day;
+        EXPECT_EQ(at[5].fireDate, stored(day, "T5", -15)) << day;
+    }
+}
+
+TEST_F(ShippedReminders, ACityMadeByTheUserIsShiftedFromItsCentre)
+{
+    ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertCity, {"شهریار", tehranProvince})));
+    const int city = std::stoi(scalar(std::string(sql::highestPlaceId)));
+    ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertOffsetRow, {city, "14000101", "-3", "2", "5", "0", "7", "0"})));
+
+    const auto records = updateFor(city);
+    ASSERT_EQ(records.size(), 5u + 24u);
+    EXPECT_EQ(records[5].alertBody, "اذان صبح به افق شهریار");
+    for (int day = 1; day <= 4; ++day) {
+        const auto at = records.begin() + 5 + 6 * (day - 1);
+        EXPECT_EQ(at[0].fireDate, stored(day, "T1", -3)) << day;
+        EXPECT_EQ(at[1].fireDate, stored(day, "T3", 5)) << day;
+        EXPECT_EQ(at[2].fireDate, stored(day, "T5", 7)) << day;
+        EXPECT_EQ(at[3].fireDate, stored(day, "T2", 2 - 10)) << day;
+        EXPECT_EQ(at[5].fireDate, stored(day, "T5", 7 - 15)) << day;
+    }
+}
+
+}  // namespace
+}  // namespace kavenda
