@@ -4,6 +4,7 @@
 #include "platform/FixedClock.h"
 #include "platform/FixedPaths.h"
 #include "platform/IcuPersianCalendar.h"
+#include "platform/Platform.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
@@ -275,6 +276,29 @@ TEST_F(Reminders, TwoUpdatesLeaveTheSameSetAsOne)
     const auto twice = update();
     EXPECT_FALSE(once.empty());
     EXPECT_EQ(once, twice);
+}
+
+// The shell installs its services and asks the shared scheduler, which must use them all.
+TEST_F(Reminders, TheSharedSchedulerWorksWithTheInstalledServices)
+{
+    choose(32);
+    settings("Item0 = 1, Item1 = 0, Item2 = 0, Item6 = 9, Item7 = '08:00'");
+    Platform services;
+    services.clock = &clock;
+    services.calendar = &calendar;
+    services.paths = &paths;
+    services.log = &log;
+    services.notifications = &notifications;
+    services.random = &random;
+    Platform::install(services);
+
+    MyNotification& shared = MyNotification::initialize();
+    EXPECT_EQ(&shared, &MyNotification::initialize());
+    shared.update();
+    ASSERT_EQ(notifications.records.size(), 10u);
+    EXPECT_EQ(notifications.records[5].soundName, "3.wav");
+    EXPECT_EQ(log.lines.front(), "08:00");
+    Platform::install(Platform{});
 }
 
 }  // namespace
