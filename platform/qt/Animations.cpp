@@ -1,0 +1,15 @@
+#include "platform/qt/Animations.h"
+
+namespace kavenda {
+
+namespace {
+
+bool enabled = true;
+
+}  // namespace
+
+void setAnimationsEnabled(bool on) { enabled = on; }
+
+bool animationsEnabled() { return enabled; }
+
+}  // namespace kavenda

@@ -1,0 +1,10 @@
+#pragma once
+
+namespace kavenda {
+
+// One switch for every transition of the phone-like widgets: tests and screenshots turn it
+// off so that a change is complete as soon as the call returns.
+void setAnimationsEnabled(bool enabled);
+bool animationsEnabled();
+
+}  // namespace kavenda

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QPointer>
+#include <QWidget>
+
+#include <functional>
+
+class QAbstractButton;
+class QVariantAnimation;
+
+namespace kavenda {
+
+class NavigationBar;
+
+// A navigation bar over a stack of screens; the bar shows the top screen's title and buttons.
+class NavigationStack : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit NavigationStack(QWidget* parent = nullptr);
+
+    void push(QWidget* screen, bool animated);
+    // The root screen stays.
+    void pop(bool animated);
+    QWidget* top() const;
+    int count() const;
+
+    void setNavigationBarHidden(bool hidden, bool animated);
+    bool isNavigationBarHidden() const;
+    // The stack owns the buttons; they show while `screen` is on top.
+    void setBarButtons(QWidget* screen, QAbstractButton* left, QAbstractButton* right);
+    QString title() const;
+
+signals:
+    void topChanged();
+
+protected:
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    struct BarButtons {
+        QPointer<QAbstractButton> left;
+        QPointer<QAbstractButton> right;
+    };
+
+    void forget(QWidget* screen);
+    void showTop();
+    void layoutContent();
+    void slide(QWidget* screen, int fromX, int toX, std::function<void()> done);
+
+    NavigationBar* bar_;
+    QWidget* content_;
+    QList<QWidget*> screens_;
+    QHash<QWidget*, BarButtons> buttons_;
+    bool barHidden_ = false;
+    int barHeight_;
+    QPointer<QVariantAnimation> barAnimation_;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,71 @@
+#include "platform/qt/PresentationStack.h"
+
+#include "platform/qt/Animations.h"
+#include "platform/qt/FlipTransition.h"
+
+namespace kavenda {
+
+PresentationStack::PresentationStack(QWidget* parent) : QWidget(parent) {}
+
+void PresentationStack::setRoot(QWidget* screen) {
+    while (screens_.size() > 1)
+        screens_.takeLast()->deleteLater();
+    if (!screens_.isEmpty())
+        screens_.takeFirst()->deleteLater();
+    adopt(screen);
+    screen->show();
+    emit topChanged();
+}
+
+void PresentationStack::present(QWidget* screen, bool animated) {
+    QWidget* below = top();
+    adopt(screen);
+    flip(below, screen, true, animated);
+    emit topChanged();
+}
+
+void PresentationStack::dismiss(bool animated) {
+    if (screens_.size() < 2)
+        return;
+    QWidget* gone = screens_.takeLast();
+    flip(gone, top(), false, animated);
+    gone->deleteLater();
+    emit topChanged();
+}
+
+QWidget* PresentationStack::top() const { return screens_.isEmpty() ? nullptr : screens_.last(); }
+
+int PresentationStack::depth() const { return static_cast<int>(screens_.size()); }
+
+void PresentationStack::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    for (QWidget* screen : screens_)
+        screen->setGeometry(rect());
+}
+
+void PresentationStack::adopt(QWidget* screen) {
+    screen->setParent(this);
+    screen->setGeometry(rect());
+    screens_.append(screen);
+    connect(screen, &QObject::destroyed, this, [this, screen] {
+        if (screens_.removeAll(screen) > 0)
+            emit topChanged();
+    });
+}
+
+void PresentationStack::flip(QWidget* from, QWidget* to, bool forward, bool animated) {
+    if (transition_)
+        transition_->deleteLater();
+    const bool canAnimate = animated && animationsEnabled() && from && isVisible();
+    QPixmap before = canAnimate ? from->grab() : QPixmap();
+    if (from)
+        from->hide();
+    to->show();
+    to->raise();
+    if (!canAnimate)
+        return;
+    QPixmap after = to->grab();
+    transition_ = new FlipTransition(this, before, after, forward);
+}
+
+}  // namespace kavenda
