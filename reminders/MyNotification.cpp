@@ -119,7 +119,11 @@ void MyNotification::schedulePrayerTimes(const RowSet& city, const RowSet& setti
             const int value = intValue(valueOf(settings, 0, settingName(type)));
             if (value == 0)
                 continue;
-            Instant moment = getDate(valueOf(times, row, "Date"), valueOf(times, row, typeColumn(type)));
+            const std::string time = valueOf(times, row, typeColumn(type));
+            // A day that lacks this time must not ring at midnight instead.
+            if (time.find(':') == std::string::npos)
+                continue;
+            Instant moment = getDate(valueOf(times, row, "Date"), time);
             moment += std::chrono::minutes(offsets[static_cast<std::size_t>(type)]);
             if (value >= 2)
                 moment -= std::chrono::minutes(value);

@@ -191,6 +191,17 @@ TEST_F(Reminders, SevenCharacterKeysAndTheEndOfSummerTime)
     EXPECT_EQ(records[0].fireDate, tehran(2023, 3, 21, 4, 37));
 }
 
+TEST_F(Reminders, ADayWithoutATimeHasNoReminderForIt)
+{
+    ASSERT_TRUE(db().ExecuteNonQuery("UPDATE tTimes SET T3 = NULL WHERE StateID = 32 AND Date = 920302"));
+    ASSERT_TRUE(db().ExecuteNonQuery("UPDATE tTimes SET T3 = '' WHERE StateID = 32 AND Date = 920303"));
+    choose(32);
+    settings("Item0 = 0, Item1 = 1, Item2 = 0");
+    const auto records = update();
+    ASSERT_EQ(records.size(), 3u);
+    EXPECT_EQ(records[1].fireDate, tehran(2013, 5, 25, 12, 49));  // 920304's 11:49 + 1
+}
+
 TEST_F(Reminders, AMomentEqualToNowIsScheduledOneASecondLateIsNot)
 {
     choose(32);
