@@ -180,9 +180,9 @@ void MyNotification::add(Instant moment, std::string_view cityName, int type, in
 
 void MyNotification::updateCalendarEvents(std::string_view time)
 {
-    // Anything but a time with a colon means the announcements are off.
+    // "0", and anything else that is not a time with a colon, means the announcements are off.
     const std::size_t colon = time.find(':');
-    if (time == "0" || colon == std::string_view::npos)
+    if (colon == std::string_view::npos)
         return;
     log_.line(std::string(time));
 
