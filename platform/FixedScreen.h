@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/Screen.h"
+
+namespace kavenda {
+
+// The screen the program runs as: the usual height, or the tall one of --tall.
+class FixedScreen final : public Screen {
+public:
+    static constexpr int kUsualHeight = 480;
+    static constexpr int kTallHeight = 568;
+
+    explicit FixedScreen(bool tall = false) : height_(tall ? kTallHeight : kUsualHeight) {}
+    int boundsHeight() const override { return height_; }
+    void setTall(bool tall) { height_ = tall ? kTallHeight : kUsualHeight; }
+
+private:
+    int height_;
+};
+
+}  // namespace kavenda

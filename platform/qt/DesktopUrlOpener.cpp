@@ -1,0 +1,12 @@
+#include "platform/qt/DesktopUrlOpener.h"
+
+#include <QDesktopServices>
+#include <QUrl>
+
+namespace kavenda {
+
+void DesktopUrlOpener::open(const std::string& address) {
+    QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(address)));
+}
+
+}  // namespace kavenda

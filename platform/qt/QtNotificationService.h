@@ -1,0 +1,43 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/NotificationService.h"
+
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+#include <optional>
+
+namespace kavenda {
+
+// Keeps the pending records and hands each to the delivery hook at its moment. "Now" comes
+// from the clock it is given, which must run on (a ShiftedClock under --now); the timer only
+// says when to look again, so a late wake-up or a changed system clock delivers what is due.
+class QtNotificationService : public QObject, public NotificationService {
+    Q_OBJECT
+
+public:
+    using Delivery = std::function<void(const NotificationRecord&)>;
+
+    explicit QtNotificationService(const Clock& clock, QObject* parent = nullptr);
+
+    void cancelAll() override;
+    void schedule(const NotificationRecord& record) override;
+    std::vector<NotificationRecord> pending() const override;
+
+    void setDelivery(Delivery delivery);
+    // Delivers every record whose moment has come, earliest first, and sets the timer anew.
+    void deliverDue();
+    std::optional<Instant> nextFireDate() const;
+
+private:
+    void rearm();
+
+    const Clock& clock_;
+    std::vector<NotificationRecord> pending_;
+    Delivery delivery_;
+    QTimer timer_;
+};
+
+}  // namespace kavenda
