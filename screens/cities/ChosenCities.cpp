@@ -77,10 +77,11 @@ bool ChosenCities::appear()
     return openSearch;
 }
 
-void ChosenCities::Done(SelectionControllerDelegate& delegate)
+void ChosenCities::Done(SelectionControllerDelegate* delegate)
 {
     rebuildReminders_();
-    delegate.closeForm();
+    if (delegate)
+        delegate->closeForm();
 }
 
 }  // namespace kavenda

@@ -50,7 +50,7 @@ public:
     bool appear();
 
     // Rebuilds the reminders for the new first city, then lets the main screen close the options.
-    void Done(SelectionControllerDelegate& delegate);
+    void Done(SelectionControllerDelegate* delegate);
 
 private:
     MyDB& db_;

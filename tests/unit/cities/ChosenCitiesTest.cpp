@@ -157,8 +157,8 @@ TEST_F(ChosenCitiesTest, TheSearchOpensByItselfOnlyOnTheFirstAppearanceWithoutCi
 TEST_F(ChosenCitiesTest, DoneRebuildsTheRemindersBeforeClosing)
 {
     ClosingDelegate delegate(rebuilds);
-    cities.Done(delegate);
-    cities.Done(delegate);
+    cities.Done(&delegate);
+    cities.Done(&delegate);
     EXPECT_EQ(delegate.rebuildsAtClose, (std::vector<int>{1, 2}));
 }
 

@@ -1,0 +1,130 @@
+#include "screens/cities/EditableCityList.h"
+
+#include "screens/cities/ChosenCities.h"
+#include "screens/cities/EditingRowDelegate.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+#include <algorithm>
+
+namespace kavenda {
+
+EditableCityList::EditableCityList(QWidget* parent) : QListWidget(parent)
+{
+    setItemDelegate(new EditingRowDelegate(this));
+    setSelectionMode(QAbstractItemView::NoSelection);
+    setFocusPolicy(Qt::NoFocus);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setFrameShape(QFrame::NoFrame);
+    setMouseTracking(false);
+}
+
+void EditableCityList::setCities(const ChosenCities& cities)
+{
+    clear();
+    confirmingRow_ = -1;
+    draggedRow_ = -1;
+    for (int row = 0; row < cities.count(); ++row) {
+        auto* item = new QListWidgetItem(QString::fromStdString(cities.nameAt(row)), this);
+        item->setTextAlignment(Qt::AlignVCenter | Qt::AlignLeading);
+        if (ChosenCities::isDimmed(row))
+            item->setForeground(QColor(Qt::gray));
+    }
+}
+
+QRect EditableCityList::deleteControlRect(int row) const
+{
+    return EditingRowDelegate::deleteControlRect(visualItemRect(item(row)), layoutDirection());
+}
+
+QRect EditableCityList::confirmRect(int row) const
+{
+    return EditingRowDelegate::confirmRect(visualItemRect(item(row)), layoutDirection());
+}
+
+QRect EditableCityList::gripRect(int row) const
+{
+    return EditingRowDelegate::gripRect(visualItemRect(item(row)), layoutDirection());
+}
+
+int EditableCityList::rowAt(const QPoint& position) const
+{
+    const QListWidgetItem* found = itemAt(position);
+    return found ? row(found) : -1;
+}
+
+int EditableCityList::dropRowAt(int y) const
+{
+    return std::clamp(y / ChosenCities::rowHeight, 0, std::max(count() - 1, 0));
+}
+
+void EditableCityList::setConfirmingRow(int row)
+{
+    confirmingRow_ = row;
+    viewport()->update();
+}
+
+void EditableCityList::mousePressEvent(QMouseEvent* event)
+{
+    const QPoint at = event->position().toPoint();
+    const int row = rowAt(at);
+    if (row < 0) {
+        setConfirmingRow(-1);
+        return;
+    }
+    if (row == confirmingRow_ && confirmRect(row).contains(at)) {
+        setConfirmingRow(-1);
+        emit deleteRequested(row);
+    } else if (deleteControlRect(row).contains(at)) {
+        setConfirmingRow(row == confirmingRow_ ? -1 : row);
+    } else if (confirmingRow_ < 0 && gripRect(row).contains(at)) {
+        draggedRow_ = row;
+        dropRow_ = row;
+        viewport()->update();
+    } else {
+        setConfirmingRow(-1);
+    }
+}
+
+void EditableCityList::mouseMoveEvent(QMouseEvent* event)
+{
+    if (draggedRow_ < 0)
+        return;
+    dropRow_ = dropRowAt(event->position().toPoint().y());
+    viewport()->update();
+}
+
+void EditableCityList::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (draggedRow_ < 0)
+        return;
+    const int from = draggedRow_;
+    const int to = dropRowAt(event->position().toPoint().y());
+    draggedRow_ = -1;
+    dropRow_ = -1;
+    viewport()->update();
+    emit moveRequested(from, to);
+}
+
+void EditableCityList::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    // A quick second press is another press: no editing of the item's text.
+    mousePressEvent(event);
+}
+
+void EditableCityList::paintEvent(QPaintEvent* event)
+{
+    QListWidget::paintEvent(event);
+    if (draggedRow_ < 0 || dropRow_ == draggedRow_)
+        return;
+    // Where the dragged row would go: a line at the edge of the row it would take.
+    const QRect target = visualItemRect(item(dropRow_));
+    const int y = dropRow_ > draggedRow_ ? target.bottom() : target.top();
+    QPainter painter(viewport());
+    painter.setPen(QPen(QColor(0x2a, 0x6f, 0xd6), 3));
+    painter.drawLine(target.left(), y, target.right(), y);
+}
+
+}  // namespace kavenda

@@ -1,0 +1,16 @@
+#include "screens/cities/RoundedCorners.h"
+
+#include <QPainterPath>
+#include <QRegion>
+#include <QWidget>
+
+namespace kavenda {
+
+void roundCorners(QWidget* widget, int radius)
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(widget->rect()), radius, radius);
+    widget->setMask(QRegion(path.toFillPolygon().toPolygon()));
+}
+
+}  // namespace kavenda

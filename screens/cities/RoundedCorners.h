@@ -1,0 +1,10 @@
+#pragma once
+
+class QWidget;
+
+namespace kavenda {
+
+// Clips a widget to a rectangle with rounded corners, as the grouped lists of the options look.
+void roundCorners(QWidget* widget, int radius);
+
+}  // namespace kavenda

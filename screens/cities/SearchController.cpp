@@ -1,0 +1,93 @@
+#include "screens/cities/SearchController.h"
+
+#include "screens/cities/SearchControllerDelegate.h"
+#include "ui_SearchController.h"
+
+#include <QShortcut>
+
+namespace kavenda {
+
+SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
+    : QWidget(parent), ui_(std::make_unique<Ui::SearchController>()), search_(db, typeID)
+{
+    ui_->setupUi(this);
+    if (search_.isProvinceMode())
+        ui_->searchBar->setPlaceholderText(tr("نام استان"));
+    connect(ui_->searchBar, &QLineEdit::textChanged, this, &SearchController::textDidChange);
+    connect(ui_->cancelButton, &QPushButton::clicked, this, &SearchController::cancel);
+    connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &SearchController::cancel);
+    connect(ui_->tblResult, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { pick(ui_->tblResult->row(item)); });
+    // Enter picks the only candidate left.
+    connect(ui_->searchBar, &QLineEdit::returnPressed, this, [this] {
+        if (search_.count() == 1)
+            pick(0);
+    });
+    // Moving through the results takes the typing focus away, as a drag puts a keyboard away.
+    ui_->tblResult->viewport()->installEventFilter(this);
+    updateDataSource(QString());
+}
+
+SearchController::~SearchController() = default;
+
+QLineEdit* SearchController::searchBar() const
+{
+    return ui_->searchBar;
+}
+
+QListWidget* SearchController::tblResult() const
+{
+    return ui_->tblResult;
+}
+
+QPushButton* SearchController::cancelButton() const
+{
+    return ui_->cancelButton;
+}
+
+void SearchController::updateDataSource(const QString& text)
+{
+    search_.updateDataSource(text.toStdString());
+    showCandidates();
+}
+
+void SearchController::textDidChange(const QString& text)
+{
+    search_.textDidChange(text.toStdString());
+    showCandidates();
+}
+
+void SearchController::showCandidates()
+{
+    ui_->tblResult->clear();
+    for (int row = 0; row < search_.count(); ++row)
+        ui_->tblResult->addItem(QString::fromStdString(search_.nameAt(row)));
+}
+
+void SearchController::pick(int row)
+{
+    ui_->tblResult->clearSelection();
+    if (delegate_)
+        search_.pick(row, *delegate_);
+}
+
+void SearchController::cancel()
+{
+    if (delegate_)
+        delegate_->closeForm();
+}
+
+void SearchController::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    ui_->searchBar->setFocus();
+}
+
+bool SearchController::eventFilter(QObject* watched, QEvent* event)
+{
+    if (event->type() == QEvent::Wheel || event->type() == QEvent::MouseMove)
+        ui_->searchBar->clearFocus();
+    return QWidget::eventFilter(watched, event);
+}
+
+}  // namespace kavenda

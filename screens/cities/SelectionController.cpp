@@ -1,0 +1,188 @@
+#include "screens/cities/SelectionController.h"
+
+#include "platform/qt/NavigationStack.h"
+#include "screens/cities/CitySearch.h"
+#include "screens/cities/CustomUITabBarController.h"
+#include "screens/cities/EditableCityList.h"
+#include "screens/cities/RoundedCorners.h"
+#include "screens/cities/SearchController.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QShowEvent>
+
+#include <utility>
+
+namespace kavenda {
+
+namespace {
+
+constexpr int kCornerRadius = 7;
+constexpr int kListX = 4;
+constexpr int kListY = 5;
+constexpr int kCreateRowY = 319;
+constexpr int kCreateRowHeight = 43;
+
+// The nearest enclosing widget of a kind: the stack and the tab bar this screen sits in.
+template <typename Container>
+Container* enclosing(const QWidget* widget)
+{
+    for (QWidget* up = widget->parentWidget(); up; up = up->parentWidget())
+        if (auto* found = qobject_cast<Container*>(up))
+            return found;
+    return nullptr;
+}
+
+// The single row "create new city" with the disclosure indicator at its trailing end.
+QListWidget* makeCreateRow(QWidget* parent)
+{
+    auto* table = new QListWidget(parent);
+    table->setGeometry(kListX, kCreateRowY, ChosenCities::listWidth, kCreateRowHeight);
+    table->setFrameShape(QFrame::NoFrame);
+    table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    table->setFocusPolicy(Qt::NoFocus);
+    auto* item = new QListWidgetItem(table);
+    item->setSizeHint(QSize(ChosenCities::listWidth, kCreateRowHeight));
+    auto* row = new QWidget;
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(14, 0, 12, 0);
+    layout->addWidget(new QLabel(SelectionController::tr("ایجاد شهر جدید"), row));
+    layout->addStretch();
+    auto* disclosure = new QLabel(row);
+    disclosure->setText(row->isRightToLeft() ? QStringLiteral("\u2039") : QStringLiteral("\u203A"));
+    disclosure->setStyleSheet("color: #a0a0a0; font-size: 20px;");
+    layout->addWidget(disclosure);
+    table->setItemWidget(item, row);
+    roundCorners(table, kCornerRadius);
+    return table;
+}
+
+}  // namespace
+
+SelectionController::SelectionController(MyDB& db, std::function<void()> rebuildReminders, QWidget* parent)
+    : QWidget(parent), db_(db), cities_(db, std::move(rebuildReminders)),
+      tblScrollView_(new QScrollArea(this)), listHolder_(new QWidget), tbl_(new EditableCityList(listHolder_)),
+      btnSearch_(new QPushButton(tr("جستجو"), this)), btnDone_(new QPushButton(tr("تمام"), this))
+{
+    setWindowTitle(tr("شهرها"));
+    setAutoFillBackground(true);
+    QPalette page = palette();
+    page.setColor(QPalette::Window, QColor(0xd6, 0xda, 0xe2));
+    setPalette(page);
+
+    tblScrollView_->setGeometry(kListX, kListY, ChosenCities::listWidth, ChosenCities::minimumListHeight);
+    tblScrollView_->setFrameShape(QFrame::NoFrame);
+    tblScrollView_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    tblScrollView_->setWidget(listHolder_);
+    roundCorners(tblScrollView_, kCornerRadius);
+
+    createNewCityTable_ = makeCreateRow(this);
+    // The new-city editor is not there yet: the row only answers the press.
+    connect(createNewCityTable_, &QListWidget::itemClicked, createNewCityTable_, &QListWidget::clearSelection);
+
+    btnSearch_->hide();
+    btnDone_->hide();
+    btnDone_->setDefault(true);
+    connect(btnSearch_, &QPushButton::clicked, this, &SelectionController::SearchControllerShow);
+    connect(btnDone_, &QPushButton::clicked, this, &SelectionController::Done);
+    connect(tbl_, &EditableCityList::deleteRequested, this, &SelectionController::remove);
+    connect(tbl_, &EditableCityList::moveRequested, this, &SelectionController::move);
+}
+
+void SelectionController::updateDataSource()
+{
+    cities_.updateDataSource();
+    showCities();
+}
+
+void SelectionController::showCities()
+{
+    tbl_->setCities(cities_);
+    if (btnDone_)
+        btnDone_->setEnabled(cities_.canFinish());
+    if (auto* tabs = tabBarController())
+        tabs->setPreferencesEnabled(cities_.preferencesEnabled());
+    tbl_->setGeometry(0, 0, ChosenCities::listWidth, cities_.listHeight());
+    listHolder_->resize(ChosenCities::listWidth, cities_.scrollContentHeight());
+}
+
+void SelectionController::remove(int row)
+{
+    cities_.remove(row);
+    showCities();
+}
+
+void SelectionController::move(int from, int to)
+{
+    cities_.move(from, to);
+    tbl_->setCities(cities_);
+}
+
+void SelectionController::Done()
+{
+    cities_.Done(delegate_);
+}
+
+void SelectionController::SearchControllerShow()
+{
+    NavigationStack* navigation = navigationStack();
+    if (!navigation || navigation->top() != this)
+        return;
+    auto* search = new SearchController(db_, CitySearch::cityMode);
+    search->setDelegate(this);
+    if (auto* tabs = tabBarController())
+        tabs->setTabBarHidden(true);
+    navigation->push(search, true);
+    navigation->setNavigationBarHidden(true, true);
+}
+
+void SelectionController::closeForm()
+{
+    if (NavigationStack* navigation = navigationStack()) {
+        navigation->pop(true);
+        navigation->setNavigationBarHidden(false, true);
+    }
+    if (auto* tabs = tabBarController())
+        tabs->setTabBarHidden(false);
+    updateDataSource();
+}
+
+void SelectionController::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous())
+        appear();
+}
+
+void SelectionController::appear()
+{
+    const bool openSearch = cities_.appear();
+    NavigationStack* navigation = navigationStack();
+    if (navigation && !barButtonsShown_) {
+        navigation->setBarButtons(this, btnSearch_, btnDone_);
+        barButtonsShown_ = true;
+    }
+    showCities();
+    if (auto* tabs = tabBarController())
+        delegate_ = tabs->parentDelegate();
+    // Once the appearance is complete: a push from inside a show event would change the
+    // stack while it is still showing this screen.
+    if (openSearch)
+        QMetaObject::invokeMethod(this, &SelectionController::SearchControllerShow, Qt::QueuedConnection);
+}
+
+NavigationStack* SelectionController::navigationStack() const
+{
+    return enclosing<NavigationStack>(this);
+}
+
+CustomUITabBarController* SelectionController::tabBarController() const
+{
+    return enclosing<CustomUITabBarController>(this);
+}
+
+}  // namespace kavenda

@@ -1,0 +1,67 @@
+#pragma once
+
+#include "screens/cities/ChosenCities.h"
+#include "screens/cities/SearchControllerDelegate.h"
+
+#include <QPointer>
+#include <QPushButton>
+#include <QWidget>
+
+#include <functional>
+
+class QListWidget;
+class QScrollArea;
+
+namespace kavenda {
+
+class CustomUITabBarController;
+class EditableCityList;
+class MyDB;
+class NavigationStack;
+class SelectionControllerDelegate;
+
+// The chosen cities, always editable: remove, reorder, add through the search, and Done.
+class SelectionController : public QWidget, public SearchControllerDelegate {
+    Q_OBJECT
+
+public:
+    SelectionController(MyDB& db, std::function<void()> rebuildReminders, QWidget* parent = nullptr);
+
+    void updateDataSource();
+    void Done();
+    void SearchControllerShow();
+    // The search is over.
+    void closeForm() override;
+
+    const ChosenCities& cities() const { return cities_; }
+    EditableCityList* tbl() const { return tbl_; }
+    QListWidget* createNewCityTable() const { return createNewCityTable_; }
+    QScrollArea* tblScrollView() const { return tblScrollView_; }
+    QPushButton* btnDone() const { return btnDone_; }
+    QPushButton* btnSearch() const { return btnSearch_; }
+
+protected:
+    void showEvent(QShowEvent* event) override;
+
+private:
+    void appear();
+    void showCities();
+    void remove(int row);
+    void move(int from, int to);
+    NavigationStack* navigationStack() const;
+    CustomUITabBarController* tabBarController() const;
+
+    MyDB& db_;
+    ChosenCities cities_;
+    QScrollArea* tblScrollView_;
+    QWidget* listHolder_;
+    EditableCityList* tbl_;
+    QListWidget* createNewCityTable_;
+    // Owned by the navigation stack once shown in its bar.
+    QPointer<QPushButton> btnSearch_;
+    QPointer<QPushButton> btnDone_;
+    bool barButtonsShown_ = false;
+    SelectionControllerDelegate* delegate_ = nullptr;
+};
+
+}  // namespace kavenda
