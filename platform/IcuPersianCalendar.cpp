@@ -5,36 +5,42 @@
 #include <unicode/locid.h>
 #include <unicode/timezone.h>
 
-#include <memory>
-
 namespace kavenda {
 
-namespace {
+struct IcuPersianCalendar::Calendars {
+    std::unique_ptr<icu::Calendar> persian;
+    std::unique_ptr<icu::Calendar> gregorian;
 
-std::unique_ptr<icu::Calendar> persianCalendar()
-{
-    UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::Calendar> calendar(
-        icu::Calendar::createInstance(icu::Locale("fa_IR@calendar=persian"), status));
-    if (U_FAILURE(status))
-        return nullptr;
-    return calendar;
-}
+    Calendars()
+    {
+        UErrorCode status = U_ZERO_ERROR;
+        persian.reset(icu::Calendar::createInstance(icu::Locale("fa_IR@calendar=persian"), status));
+        status = U_ZERO_ERROR;
+        gregorian.reset(new icu::GregorianCalendar(status));
+        if (U_FAILURE(status))
+            gregorian.reset();
+    }
 
-void setPersianDay(icu::Calendar& calendar, int year, int month, int day, int hour, int minute)
-{
-    calendar.clear();
-    calendar.set(year, month - 1, day, hour, minute, 0);
-}
+    // The Persian calendar set to a date and wall-clock time; null when ICU has none.
+    icu::Calendar* persianAt(int year, int month, int day, int hour, int minute) const
+    {
+        if (!persian)
+            return nullptr;
+        persian->clear();
+        persian->set(year, month - 1, day, hour, minute, 0);
+        return persian.get();
+    }
+};
 
-}  // namespace
+IcuPersianCalendar::IcuPersianCalendar() : calendars_(std::make_unique<Calendars>()) {}
+
+IcuPersianCalendar::~IcuPersianCalendar() = default;
 
 int IcuPersianCalendar::dayOfYear(int year, int month, int day) const
 {
-    auto calendar = persianCalendar();
+    icu::Calendar* calendar = calendars_->persianAt(year, month, day, 0, 0);
     if (!calendar)
         return 0;
-    setPersianDay(*calendar, year, month, day, 0, 0);
     UErrorCode status = U_ZERO_ERROR;
     const int ordinal = calendar->get(UCAL_DAY_OF_YEAR, status);
     return U_SUCCESS(status) ? ordinal : 0;
@@ -42,10 +48,9 @@ int IcuPersianCalendar::dayOfYear(int year, int month, int day) const
 
 Instant IcuPersianCalendar::instantOf(int year, int month, int day, int hour, int minute) const
 {
-    auto calendar = persianCalendar();
+    icu::Calendar* calendar = calendars_->persianAt(year, month, day, hour, minute);
     if (!calendar)
         return Instant{};
-    setPersianDay(*calendar, year, month, day, hour, minute);
     UErrorCode status = U_ZERO_ERROR;
     const UDate millis = calendar->getTime(status);
     if (U_FAILURE(status))
@@ -55,16 +60,18 @@ Instant IcuPersianCalendar::instantOf(int year, int month, int day, int hour, in
 
 CivilTime IcuPersianCalendar::gregorianFields(Instant instant) const
 {
+    icu::Calendar* calendar = calendars_->gregorian.get();
+    if (!calendar)
+        return CivilTime{};
     UErrorCode status = U_ZERO_ERROR;
-    icu::GregorianCalendar calendar(status);
-    calendar.setTime(static_cast<UDate>(instant.time_since_epoch().count()) * 1000.0, status);
+    calendar->setTime(static_cast<UDate>(instant.time_since_epoch().count()) * 1000.0, status);
     CivilTime fields;
-    fields.year = calendar.get(UCAL_YEAR, status);
-    fields.month = calendar.get(UCAL_MONTH, status) + 1;
-    fields.day = calendar.get(UCAL_DATE, status);
-    fields.hour = calendar.get(UCAL_HOUR_OF_DAY, status);
-    fields.minute = calendar.get(UCAL_MINUTE, status);
-    fields.second = calendar.get(UCAL_SECOND, status);
+    fields.year = calendar->get(UCAL_YEAR, status);
+    fields.month = calendar->get(UCAL_MONTH, status) + 1;
+    fields.day = calendar->get(UCAL_DATE, status);
+    fields.hour = calendar->get(UCAL_HOUR_OF_DAY, status);
+    fields.minute = calendar->get(UCAL_MINUTE, status);
+    fields.second = calendar->get(UCAL_SECOND, status);
     return U_SUCCESS(status) ? fields : CivilTime{};
 }
 

@@ -2,15 +2,25 @@
 
 #include "platform/PersianCalendar.h"
 
+#include <memory>
+
 namespace kavenda {
 
-// ICU's Persian and Gregorian calendars in the process's default time zone (TZ).
+// ICU's Persian and Gregorian calendars in the process's default time zone (TZ). The ICU
+// calendars are made once and reused: making one costs more than the conversion itself.
 class IcuPersianCalendar final : public PersianCalendar {
 public:
+    IcuPersianCalendar();
+    ~IcuPersianCalendar() override;
+
     int dayOfYear(int year, int month, int day) const override;
     Instant instantOf(int year, int month, int day, int hour, int minute) const override;
     CivilTime gregorianFields(Instant instant) const override;
     std::string timeZoneId() const override;
+
+private:
+    struct Calendars;
+    std::unique_ptr<Calendars> calendars_;
 };
 
 }  // namespace kavenda
