@@ -59,6 +59,12 @@ void NavigationStack::pop(bool animated) {
         gone->deleteLater();
 }
 
+// The screens outlive the members that track them: they are deleted with the base widget.
+NavigationStack::~NavigationStack() {
+    for (QWidget* screen : screens_)
+        disconnect(screen, nullptr, this, nullptr);
+}
+
 QWidget* NavigationStack::top() const { return screens_.isEmpty() ? nullptr : screens_.last(); }
 
 int NavigationStack::count() const { return static_cast<int>(screens_.size()); }

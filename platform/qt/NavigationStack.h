@@ -20,6 +20,7 @@ class NavigationStack : public QWidget {
 
 public:
     explicit NavigationStack(QWidget* parent = nullptr);
+    ~NavigationStack() override;
 
     void push(QWidget* screen, bool animated);
     // The root screen stays.

@@ -85,7 +85,7 @@ void Pager::mousePressEvent(QMouseEvent* event) {
 void Pager::mouseMoveEvent(QMouseEvent* event) {
     if (!dragging_)
         return QAbstractScrollArea::mouseMoveEvent(event);
-    moveTo(clamped(dragStartOffset_ - (event->globalPosition().x() - dragStartX_)));
+    moveTo(draggedOffset(*event));
     event->accept();
 }
 
@@ -93,6 +93,7 @@ void Pager::mouseReleaseEvent(QMouseEvent* event) {
     if (!dragging_ || event->button() != Qt::LeftButton)
         return QAbstractScrollArea::mouseReleaseEvent(event);
     dragging_ = false;
+    moveTo(draggedOffset(*event));
     snapTo(currentPage());
     event->accept();
 }
@@ -124,6 +125,10 @@ void Pager::snapTo(int page) {
     setContentOffset(static_cast<double>(page) * kPageWidth, true);
     if (!animation_)
         emit didEndScrolling(page);
+}
+
+double Pager::draggedOffset(const QMouseEvent& event) const {
+    return clamped(dragStartOffset_ - (event.globalPosition().x() - dragStartX_));
 }
 
 double Pager::clamped(double x) const {

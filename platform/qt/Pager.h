@@ -44,6 +44,7 @@ protected:
 private:
     void moveTo(double x);
     void snapTo(int page);
+    double draggedOffset(const QMouseEvent& event) const;
     double clamped(double x) const;
     void layoutPages();
 

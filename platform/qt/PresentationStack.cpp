@@ -33,6 +33,12 @@ void PresentationStack::dismiss(bool animated) {
     emit topChanged();
 }
 
+// The screens outlive the members that track them: they are deleted with the base widget.
+PresentationStack::~PresentationStack() {
+    for (QWidget* screen : screens_)
+        disconnect(screen, nullptr, this, nullptr);
+}
+
 QWidget* PresentationStack::top() const { return screens_.isEmpty() ? nullptr : screens_.last(); }
 
 int PresentationStack::depth() const { return static_cast<int>(screens_.size()); }

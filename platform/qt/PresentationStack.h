@@ -14,6 +14,7 @@ class PresentationStack : public QWidget {
 
 public:
     explicit PresentationStack(QWidget* parent = nullptr);
+    ~PresentationStack() override;
 
     void setRoot(QWidget* screen);
     void present(QWidget* screen, bool animated);
