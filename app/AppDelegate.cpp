@@ -1,0 +1,181 @@
+#include "app/AppDelegate.h"
+
+#include "data/MyDB.h"
+#include "data/Format.h"
+#include "platform/Alerts.h"
+#include "platform/Log.h"
+#include "platform/Screen.h"
+#include "platform/qt/PresentationStack.h"
+#include "reminders/MyNotification.h"
+#include "screens/main/MainViewController.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenu>
+#include <QSystemTrayIcon>
+#include <QVBoxLayout>
+#include <QWindowStateChangeEvent>
+
+namespace kavenda {
+
+namespace {
+
+// The phone's status bar takes this much of the screen's height.
+constexpr int statusBarHeight = 20;
+constexpr int screenWidth = 320;
+
+}  // namespace
+
+AppDelegate::AppDelegate(const Platform& services, DesktopNotify desktopNotify, QObject* parent)
+    : QObject(parent), services_(services), desktopNotify_(std::move(desktopNotify))
+{
+    connect(qApp, &QCoreApplication::aboutToQuit, this, &AppDelegate::applicationWillTerminate);
+}
+
+AppDelegate::~AppDelegate() = default;
+
+bool AppDelegate::didFinishLaunchingWithOptions()
+{
+    window_ = std::make_unique<QWidget>();
+    window_->setWindowTitle(QApplication::applicationDisplayName());
+    window_->setFixedSize(screenWidth, services_.screen->boundsHeight() - statusBarHeight);
+    auto* layout = new QVBoxLayout(window_.get());
+    layout->setContentsMargins(0, 0, 0, 0);
+    presentation_ = new PresentationStack(window_.get());
+    layout->addWidget(presentation_);
+
+    try {
+        MyDB::initialize();
+    } catch (...) {
+        services_.log->line("asdasd");
+    }
+    MyNotification::initialize().update();
+
+    root_ = new MainViewController({MyDB::initialize(), *services_.clock, *services_.calendar, *services_.screen,
+                                    *services_.paths, [] { MyNotification::initialize().update(); }},
+                                   *presentation_);
+    presentation_->setRoot(root_);
+    window_->installEventFilter(this);
+    makeTray();
+    showWindow();
+    return true;
+}
+
+MainViewController* AppDelegate::rootViewController() const
+{
+    return root_;
+}
+
+void AppDelegate::applicationWillEnterForeground()
+{
+    MyNotification::initialize().update();
+    const QString className = QString::fromLatin1(root_->metaObject()->className()).section(QStringLiteral("::"), -1);
+    services_.log->line(format("%@", {className.toStdString()}));
+    root_->refresh();
+}
+
+void AppDelegate::applicationDidBecomeActive()
+{
+    root_->refresh();
+}
+
+void AppDelegate::didReceiveLocalNotification(const NotificationRecord& notification)
+{
+    if (active_)
+        services_.alerts->show("", notification.alertBody, "Ok");
+    else
+        desktopNotify_(notification);
+}
+
+// Nothing to keep: every statement closes the database behind it.
+void AppDelegate::applicationDidEnterBackground() {}
+void AppDelegate::applicationWillTerminate() {}
+
+void AppDelegate::makeTray()
+{
+    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
+        QApplication::setQuitOnLastWindowClosed(true);
+        return;
+    }
+    // Reminders fire from the tray while the window is closed.
+    QApplication::setQuitOnLastWindowClosed(false);
+    tray_ = new QSystemTrayIcon(QApplication::windowIcon(), this);
+    tray_->setToolTip(QApplication::applicationDisplayName());
+    auto* menu = new QMenu(window_.get());
+    connect(menu->addAction(tr("Show")), &QAction::triggered, this, &AppDelegate::showWindow);
+    connect(menu->addAction(tr("Quit")), &QAction::triggered, this, [this] {
+        quitting_ = true;
+        QCoreApplication::quit();
+    });
+    tray_->setContextMenu(menu);
+    connect(tray_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger)
+            showWindow();
+    });
+    tray_->show();
+}
+
+void AppDelegate::showWindow()
+{
+    window_->showNormal();
+    window_->raise();
+    window_->activateWindow();
+}
+
+void AppDelegate::enterBackground()
+{
+    if (inBackground_)
+        return;
+    inBackground_ = true;
+    applicationDidEnterBackground();
+}
+
+void AppDelegate::enterForeground()
+{
+    if (!inBackground_)
+        return;
+    inBackground_ = false;
+    applicationWillEnterForeground();
+}
+
+bool AppDelegate::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != window_.get())
+        return QObject::eventFilter(watched, event);
+    switch (event->type()) {
+    case QEvent::Close:
+        if (tray_ && !quitting_) {
+            event->ignore();
+            window_->hide();
+            return true;
+        }
+        break;
+    case QEvent::Hide:
+        active_ = false;
+        enterBackground();
+        break;
+    case QEvent::Show:
+        if (!window_->isMinimized())
+            enterForeground();
+        break;
+    case QEvent::WindowStateChange:
+        if (window_->isMinimized())
+            enterBackground();
+        else
+            enterForeground();
+        break;
+    case QEvent::WindowActivate:
+        active_ = true;
+        applicationDidBecomeActive();
+        break;
+    case QEvent::WindowDeactivate:
+        active_ = false;
+        break;
+    default:
+        break;
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+}  // namespace kavenda

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "platform/NotificationRecord.h"
+#include "platform/Platform.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+
+class QSystemTrayIcon;
+class QWidget;
+
+namespace kavenda {
+
+class MainViewController;
+class PresentationStack;
+
+// The shell: makes the window and its root screen, and turns the desktop's events into the
+// application's life events: a window shown again after the tray or a minimise enters the
+// foreground, an activated window becomes active, a window hidden or minimised enters the
+// background, and quitting terminates.
+class AppDelegate : public QObject {
+    Q_OBJECT
+
+public:
+    // Shows a notification on the desktop while the window is not active.
+    using DesktopNotify = std::function<void(const NotificationRecord&)>;
+
+    // The services are the installed ones the shared database and scheduler are made from.
+    AppDelegate(const Platform& services, DesktopNotify desktopNotify, QObject* parent = nullptr);
+    ~AppDelegate() override;
+
+    bool didFinishLaunchingWithOptions();
+    void applicationWillEnterForeground();
+    void applicationDidBecomeActive();
+    void didReceiveLocalNotification(const NotificationRecord& notification);
+    void applicationDidEnterBackground();
+    void applicationWillTerminate();
+
+    QWidget* window() const { return window_.get(); }
+    MainViewController* rootViewController() const;
+    // Where the desktop has a tray, closing the window only hides it there; else null.
+    QSystemTrayIcon* tray() const { return tray_; }
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void makeTray();
+    void showWindow();
+    void enterBackground();
+    void enterForeground();
+
+    Platform services_;
+    DesktopNotify desktopNotify_;
+    std::unique_ptr<QWidget> window_;
+    PresentationStack* presentation_ = nullptr;
+    MainViewController* root_ = nullptr;
+    QSystemTrayIcon* tray_ = nullptr;
+    bool inBackground_ = false;
+    bool active_ = false;
+    bool quitting_ = false;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,66 @@
+#include "screens/main/CustomUIImageView.h"
+
+#include "screens/main/DayPage.h"
+
+#include <QGraphicsDropShadowEffect>
+#include <QLabel>
+#include <QPainter>
+#include <QPalette>
+
+namespace kavenda {
+
+namespace {
+
+constexpr int timeRowTop = 108;
+constexpr int timeRowStep = 38;
+
+}  // namespace
+
+CustomUIImageView::CustomUIImageView(const Row& row, int index, DateTimePersian& date, int screenHeight,
+                                     const std::filesystem::path& resourceFolder, QWidget* parent)
+    : QWidget(parent)
+{
+    const DayPage page(row, index, date, screenHeight);
+    const Frame& frame = page.frame();
+    setGeometry(frame.x, frame.y, frame.width, frame.height);
+    // The pager gives every page its full height, so the page's own top is kept inside.
+    top_ = frame.y;
+    background_.load(QString::fromStdString((resourceFolder / "MainView.png").string()));
+
+    // Fixed frames: the alignment must not follow the right-to-left layout direction.
+    const Qt::Alignment left = Qt::AlignAbsolute | Qt::AlignLeft | Qt::AlignVCenter;
+    const Qt::Alignment right = Qt::AlignAbsolute | Qt::AlignRight | Qt::AlignVCenter;
+    addLabel({180, 45, 100, 40}, right, 20, 3, page.name());
+    addLabel({30, 70, 250, 40}, right, 16, 3, page.occasion());
+    addLabel({30, 45, 160, 40}, left, 20, 3, page.date());
+    for (int k = 1; k <= DayPage::timeCount; ++k)
+        addLabel({35, timeRowTop + timeRowStep * (k - 1), 100, 40}, left, 25, 2, page.time(k));
+}
+
+void CustomUIImageView::paintEvent(QPaintEvent*)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), Qt::black);
+    painter.drawPixmap(0, top_, background_);
+}
+
+void CustomUIImageView::addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
+                                    const std::string& text)
+{
+    auto* label = new QLabel(QString::fromStdString(text), this);
+    label->setGeometry(frame.x, top_ + frame.y, frame.width, frame.height);
+    label->setAlignment(alignment);
+    QFont font = label->font();
+    font.setPixelSize(fontSize);
+    label->setFont(font);
+    QPalette colours = label->palette();
+    colours.setColor(QPalette::WindowText, Qt::white);
+    label->setPalette(colours);
+    auto* shadow = new QGraphicsDropShadowEffect(label);
+    shadow->setColor(Qt::black);
+    shadow->setOffset(-1, shadowDown);
+    shadow->setBlurRadius(0);
+    label->setGraphicsEffect(shadow);
+}
+
+}  // namespace kavenda

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "data/RowSet.h"
+
+#include <QPixmap>
+#include <QWidget>
+
+#include <filesystem>
+
+namespace kavenda {
+
+class DateTimePersian;
+struct Frame;
+
+// One city's day over the page artwork: name, first occasion, date and eight times. Built
+// once; the main screen throws it away on its next rebuild.
+class CustomUIImageView : public QWidget {
+    Q_OBJECT
+
+public:
+    CustomUIImageView(const Row& row, int index, DateTimePersian& date, int screenHeight,
+                      const std::filesystem::path& resourceFolder, QWidget* parent = nullptr);
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
+private:
+    void addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown, const std::string& text);
+
+    QPixmap background_;
+    int top_ = 0;
+};
+
+}  // namespace kavenda

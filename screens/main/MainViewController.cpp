@@ -1,0 +1,197 @@
+#include "screens/main/MainViewController.h"
+
+#include "platform/Paths.h"
+#include "platform/Screen.h"
+#include "platform/qt/PageIndicator.h"
+#include "platform/qt/Pager.h"
+#include "platform/qt/PresentationStack.h"
+#include "screens/cities/CustomUITabBarController.h"
+#include "screens/cities/OptionsViewController.h"
+#include "screens/main/CustomUIImageView.h"
+#include "screens/main/DayPage.h"
+
+#include <QMouseEvent>
+#include <QPalette>
+#include <QToolButton>
+
+#include <algorithm>
+
+namespace kavenda {
+
+namespace {
+
+// The tall screen moves the controls at the bottom down by the extra height.
+constexpr int tallShift = 88;
+
+QAbstractButton* informationButton(QWidget* parent)
+{
+    auto* button = new QToolButton(parent);
+    button->setText(QStringLiteral("i"));
+    button->setStyleSheet(QStringLiteral(
+        "QToolButton { color: white; font: bold italic 12px; border: 2px solid white; border-radius: 9px; }"
+        "QToolButton:pressed { background: rgba(255, 255, 255, 90); }"));
+    return button;
+}
+
+QAbstractButton* calendarButton(const std::filesystem::path& resourceFolder, QWidget* parent)
+{
+    auto* button = new QToolButton(parent);
+    button->setAutoRaise(true);
+    button->setIcon(QIcon(QString::fromStdString((resourceFolder / "calendarBtn.png").string())));
+    button->setIconSize(QSize(34, 32));
+    button->setStyleSheet(QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"));
+    return button;
+}
+
+}  // namespace
+
+MainViewController::MainViewController(const Services& services, PresentationStack& presentation, QWidget* parent)
+    : QWidget(parent), services_(services), presentation_(presentation), pages_(services.db)
+{
+    setObjectName(QStringLiteral("MainViewController"));
+    viewDidLoad();
+    connect(&presentation_, &PresentationStack::topChanged, this, &MainViewController::presentationChanged);
+}
+
+// The stack reports its new top while this screen is being destroyed.
+MainViewController::~MainViewController()
+{
+    disconnect(&presentation_, nullptr, this, nullptr);
+}
+
+void MainViewController::viewDidLoad()
+{
+    if (!localDtp_)
+        localDtp_ = DateTimePersian::init(services_.clock, services_.calendar);
+
+    const bool tall = services_.screen.boundsHeight() == DayPage::tallScreenHeight;
+    const int shift = tall ? tallShift : 0;
+    setAutoFillBackground(true);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, Qt::black);
+    setPalette(colours);
+
+    scrollView_ = new Pager(this);
+    scrollView_->setGeometry(0, 0, CityPages::pageWidth, CityPages::pageHeight + shift);
+    connect(scrollView_, &Pager::didScroll, this, &MainViewController::scrollViewDidScroll);
+
+    pageControl_ = new PageIndicator(this);
+    pageControl_->setGeometry(0, 425 + shift, 320, 36);
+    pageControl_->installEventFilter(this);
+
+    QAbstractButton* options = informationButton(this);
+    options->setObjectName(QStringLiteral("optionsButton"));
+    options->setGeometry(290, 430 + shift, 18, 19);
+    connect(options, &QAbstractButton::clicked, this, &MainViewController::showSelector);
+
+    // The month calendar is a screen of its own still to come; the button holds its place.
+    QAbstractButton* calendar = calendarButton(services_.paths.resourceFolder(), this);
+    calendar->setObjectName(QStringLiteral("calendarButton"));
+    calendar->setGeometry(15, 425 + shift, 34, 32);
+
+    if (!datasource().empty())
+        Bind();
+}
+
+void MainViewController::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    // Later appearances come from the presentation stack; showing the window again is a
+    // return to the foreground, which the shell handles.
+    if (!appeared_) {
+        appeared_ = true;
+        viewDidAppear();
+    }
+}
+
+void MainViewController::presentationChanged()
+{
+    if (appeared_ && presentation_.top() == this)
+        viewDidAppear();
+}
+
+void MainViewController::viewDidAppear()
+{
+    updateDataSource();
+    if (!datasource().empty())
+        Bind();
+    else
+        showSelector();
+}
+
+void MainViewController::refresh()
+{
+    localDtp_ = DateTimePersian::init(services_.clock, services_.calendar);
+    updateDataSource();
+    Bind();
+    emit refreshed();
+}
+
+void MainViewController::updateDataSource()
+{
+    pages_.updateDataSource(*localDtp_);
+}
+
+void MainViewController::Bind()
+{
+    pageCount_ = static_cast<int>(datasource().size());
+    QList<QWidget*> pageViews;
+    for (int i = 0; i < pageCount_; ++i)
+        pageViews.append(new CustomUIImageView(datasource()[static_cast<std::size_t>(i)], i, *localDtp_,
+                                               services_.screen.boundsHeight(), services_.paths.resourceFolder()));
+    scrollView_->setPages(pageViews);
+    scrollView_->setContentOffset(CityPages::lastPageOffset(pageCount_, scrollView_->width()), false);
+    pageControl_->setNumberOfPages(pageCount_);
+    pageControl_->setCurrentPage(pageCount_ - 1);
+}
+
+void MainViewController::showSelector()
+{
+    auto* options = new OptionsViewController(services_.db, services_.rebuildReminders);
+    CustomUITabBarController* tabs = options->tabBarControl();
+    tabs->setParentDelegate(this);
+    presentation_.present(tabs, true);
+}
+
+void MainViewController::closeForm()
+{
+    updateDataSource();
+    Bind();
+    presentation_.dismiss(true);
+}
+
+void MainViewController::closeCalendar(const DateTimePersian& date, QWidget* calendar)
+{
+    localDtp_ = DateTimePersian::initWithPersianDate(date.getPersianDate(), services_.calendar);
+    if (presentation_.top() == calendar)
+        presentation_.dismiss(true);
+}
+
+// A tap on the indicator moves one page towards the side it lands on.
+bool MainViewController::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == pageControl_ && event->type() == QEvent::MouseButtonRelease) {
+        const auto* tap = static_cast<QMouseEvent*>(event);
+        const int step = tap->position().x() >= pageControl_->width() / 2.0 ? 1 : -1;
+        const int page = std::clamp(pageControl_->currentPage() + step, 0, std::max(0, pageCount_ - 1));
+        if (page != pageControl_->currentPage()) {
+            pageControl_->setCurrentPage(page);
+            pageAction();
+        }
+        return true;
+    }
+    return QWidget::eventFilter(watched, event);
+}
+
+void MainViewController::pageAction()
+{
+    scrollView_->setContentOffset(double(scrollView_->width()) * pageControl_->currentPage(), true);
+}
+
+void MainViewController::scrollViewDidScroll(double offset)
+{
+    if (const std::optional<int> page = CityPages::settledPage(offset))
+        pageControl_->setCurrentPage(*page);
+}
+
+}  // namespace kavenda

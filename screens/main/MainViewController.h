@@ -1,0 +1,84 @@
+#pragma once
+
+#include "calendar/DateTimePersian.h"
+#include "screens/cities/SelectionControllerDelegate.h"
+#include "screens/main/CityPages.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <optional>
+
+class QAbstractButton;
+
+namespace kavenda {
+
+class Clock;
+class MyDB;
+class Pager;
+class PageIndicator;
+class Paths;
+class PersianCalendar;
+class PresentationStack;
+class Screen;
+
+// The root screen: one day page per chosen city in a pager, the last city of the user's list
+// on the left, opening on the first city; buttons for the options and the month calendar.
+class MainViewController : public QWidget, public SelectionControllerDelegate {
+    Q_OBJECT
+
+public:
+    struct Services {
+        MyDB& db;
+        const Clock& clock;
+        const PersianCalendar& calendar;
+        const Screen& screen;
+        const Paths& paths;
+        // What the options' Done runs before they close.
+        std::function<void()> rebuildReminders;
+    };
+
+    // The presentation stack is the one this screen is the root of; it shows the options.
+    MainViewController(const Services& services, PresentationStack& presentation, QWidget* parent = nullptr);
+    ~MainViewController() override;
+
+    void refresh();
+    void updateDataSource();
+    void Bind();
+    void showSelector();
+    void closeForm() override;
+    // The month calendar hands back the day to show until the next refresh, and is dismissed.
+    void closeCalendar(const DateTimePersian& date, QWidget* calendar);
+    void pageAction();
+    void scrollViewDidScroll(double offset);
+
+    const RowSet& datasource() const { return pages_.datasource(); }
+    int pageCount() const { return pageCount_; }
+    const DateTimePersian& localDtp() const { return *localDtp_; }
+    Pager* scrollView() const { return scrollView_; }
+    PageIndicator* pageControl() const { return pageControl_; }
+
+signals:
+    // After each refresh, for whoever keeps count of the life events.
+    void refreshed();
+
+protected:
+    void showEvent(QShowEvent* event) override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void viewDidLoad();
+    void viewDidAppear();
+    void presentationChanged();
+
+    Services services_;
+    PresentationStack& presentation_;
+    CityPages pages_;
+    int pageCount_ = 0;
+    std::optional<DateTimePersian> localDtp_;
+    Pager* scrollView_ = nullptr;
+    PageIndicator* pageControl_ = nullptr;
+    bool appeared_ = false;
+};
+
+}  // namespace kavenda

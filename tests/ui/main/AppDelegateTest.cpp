@@ -1,0 +1,152 @@
+#include "app/AppDelegate.h"
+#include "platform/Alerts.h"
+#include "platform/FixedClock.h"
+#include "platform/FixedPaths.h"
+#include "platform/IcuPersianCalendar.h"
+#include "platform/FixedScreen.h"
+#include "platform/qt/Animations.h"
+#include "screens/main/MainViewController.h"
+#include "tests/support/FixtureDatabase.h"
+#include "tests/support/RecordingLog.h"
+#include "tests/support/RecordingNotificationService.h"
+#include "tests/support/ScriptedRandom.h"
+#include "tests/support/TehranTime.h"
+#include "tests/support/TempFolder.h"
+
+#include <QSignalSpy>
+#include <QtTest>
+
+#include <algorithm>
+#include <tuple>
+
+namespace kavenda {
+namespace {
+
+class RecordingAlerts final : public Alerts {
+public:
+    void show(const std::string& title, const std::string& message, const std::string& button) override
+    {
+        shown.emplace_back(title, message, button);
+    }
+    std::vector<std::tuple<std::string, std::string, std::string>> shown;
+};
+
+// What the window manager tells a window that gains or loses the focus.
+void windowManagerSends(QWidget* window, QEvent::Type type)
+{
+    QEvent event(type);
+    QApplication::sendEvent(window, &event);
+}
+
+}  // namespace
+
+// The shell's life events on the shared database and scheduler, which live for the whole
+// process: one launch serves every case, in order.
+class AppDelegateTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        setAnimationsEnabled(false);
+        const auto database = test::buildFixtureDatabase(paths.resourceFolder(), {"fixture-data.sql", "main-screen.sql"});
+        test::execSql(database, "INSERT INTO tSelectedStates VALUES(32, 0); UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1;");
+        Platform::install({&clock, &calendar, &paths, &log, &notifications, &random, nullptr, nullptr, &alerts, &screen});
+        delegate = std::make_unique<AppDelegate>(Platform::installed(),
+                                                 [this](const NotificationRecord& record) { desktop.push_back(record); });
+    }
+
+    void launchCopiesTheDatabaseRebuildsTheRemindersAndShowsTheMainScreen()
+    {
+        QVERIFY(!std::filesystem::exists(paths.documentsFolder() / "Icons"));
+        QVERIFY(delegate->didFinishLaunchingWithOptions());
+        QVERIFY(std::filesystem::exists(paths.documentsFolder() / "Icons"));
+        QCOMPARE(notifications.cancelCalls, 1);
+        QVERIFY(!notifications.records.empty());  // read from the copy
+        QVERIFY(delegate->window()->isVisible());
+        QCOMPARE(delegate->window()->size(), QSize(320, 460));
+        QCOMPARE(delegate->rootViewController()->pageCount(), 1);
+    }
+
+    void aReturnFromTheBackgroundUpdatesOnceAndRefreshesTwice()
+    {
+        // The cold start's own activation comes first.
+        QVERIFY(QTest::qWaitForWindowActive(delegate->window()));
+        QSignalSpy refreshed(delegate->rootViewController(), &MainViewController::refreshed);
+        const int updates = notifications.cancelCalls;
+        const auto logged = log.lines.size();
+
+        delegate->window()->hide();
+        QTest::qWait(50);
+        QCOMPARE(notifications.cancelCalls, updates);
+        QCOMPARE(refreshed.count(), 0);
+
+        delegate->window()->show();
+        QCOMPARE(refreshed.count(), 1);
+        QCOMPARE(notifications.cancelCalls, updates + 1);
+        windowManagerSends(delegate->window(), QEvent::WindowActivate);
+        QCOMPARE(refreshed.count(), 2);
+        QCOMPARE(notifications.cancelCalls, updates + 1);
+        // The root screen's class name, once, after the scheduler's own lines.
+        const std::vector<std::string> lines(log.lines.begin() + static_cast<long>(logged), log.lines.end());
+        QCOMPARE(std::count(lines.begin(), lines.end(), std::string("MainViewController")), 1L);
+        QCOMPARE(lines.back(), std::string("MainViewController"));
+    }
+
+    void unminimisingIsAReturnToTheForegroundToo()
+    {
+        const int updates = notifications.cancelCalls;
+        delegate->window()->showMinimized();
+        QTest::qWait(50);
+        delegate->window()->showNormal();
+        QTRY_COMPARE(notifications.cancelCalls, updates + 1);
+    }
+
+    void aRefreshReturnsToToday()
+    {
+        MainViewController& main = *delegate->rootViewController();
+        main.closeCalendar(DateTimePersian::initWithPersianDate("920411", calendar), nullptr);
+        QCOMPARE(main.localDtp().getPersianDate(), std::string("920411"));
+        main.refresh();
+        QCOMPARE(main.localDtp().getPersianDate(), std::string("920410"));
+    }
+
+    void aNotificationIsAnAlertWhileTheWindowIsActiveElseADesktopOne()
+    {
+        NotificationRecord record;
+        record.alertBody = "اذان ظهر به افق تهران";
+        record.soundName = "3.wav";
+
+        windowManagerSends(delegate->window(), QEvent::WindowActivate);
+        delegate->didReceiveLocalNotification(record);
+        QCOMPARE(alerts.shown.size(), std::size_t(1));
+        QCOMPARE(alerts.shown[0], std::make_tuple(std::string(), record.alertBody, std::string("Ok")));
+        QVERIFY(desktop.empty());
+
+        windowManagerSends(delegate->window(), QEvent::WindowDeactivate);
+        delegate->didReceiveLocalNotification(record);
+        delegate->window()->hide();
+        delegate->didReceiveLocalNotification(record);
+        QCOMPARE(alerts.shown.size(), std::size_t(1));
+        QCOMPARE(desktop.size(), std::size_t(2));
+        QCOMPARE(desktop[0], record);
+    }
+
+private:
+    test::TempFolder temp;
+    FixedPaths paths{temp.path() / "documents", temp.path() / "resources"};
+    test::RecordingLog log;
+    FixedClock clock{test::tehran(2013, 7, 1, 12, 0)};
+    IcuPersianCalendar calendar;
+    test::RecordingNotificationService notifications;
+    test::ScriptedRandom random{{0}};
+    RecordingAlerts alerts;
+    FixedScreen screen;
+    std::vector<NotificationRecord> desktop;
+    std::unique_ptr<AppDelegate> delegate;
+};
+
+}  // namespace kavenda
+
+QTEST_MAIN(kavenda::AppDelegateTest)
+#include "AppDelegateTest.moc"

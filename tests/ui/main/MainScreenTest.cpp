@@ -1,0 +1,199 @@
+#include "app/PersianFont.h"
+#include "calendar/DateTimePersian.h"
+#include "platform/qt/Animations.h"
+#include "platform/qt/PageIndicator.h"
+#include "platform/qt/Pager.h"
+#include "platform/qt/PresentationStack.h"
+#include "platform/SystemClock.h"
+#include "screens/main/CustomUIImageView.h"
+#include "screens/main/MainViewController.h"
+#include "tests/support/TehranTime.h"
+#include "tests/ui/main/MainScreenFixture.h"
+
+#include <QAbstractButton>
+#include <QLabel>
+#include <QtTest>
+
+namespace kavenda {
+namespace {
+
+using test::MainScreenFixture;
+
+// 10 Tir 1392, 12:00: a summer day of 1392, with the summer hour.
+const Instant summerDay = test::tehran(2013, 7, 1, 12, 0);
+constexpr int tehran = 32, isfahan = 33, mashhad = 34, varamin = 64;
+
+QRect frameOf(const MainViewController& main, const char* name)
+{
+    return main.findChild<QWidget*>(QLatin1String(name))->geometry();
+}
+
+}  // namespace
+
+class MainScreenTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        setAnimationsEnabled(false);
+        usePersianFont();
+    }
+
+    void threeCitiesOpenOnTheFirstCityOnTheLastPage()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran, isfahan, mashhad});
+        MainViewController& main = f.show();
+
+        QCOMPARE(main.pageCount(), 3);
+        const auto pages = f.pages();
+        QCOMPARE(pages.size(), 3);
+        QCOMPARE(MainScreenFixture::texts(pages[0]).first(), QStringLiteral("مشهد"));
+        QCOMPARE(MainScreenFixture::texts(pages[1]).first(), QStringLiteral("اصفهان"));
+        QCOMPARE(MainScreenFixture::texts(pages[2]).first(), QStringLiteral("تهران"));
+        QCOMPARE(pages[2]->geometry(), QRect(640, 0, 320, 460));
+        QCOMPARE(main.scrollView()->contentWidth(), 960);
+        QCOMPARE(main.scrollView()->contentOffset(), 640.0);
+        QCOMPARE(main.pageControl()->numberOfPages(), 3);
+        QCOMPARE(main.pageControl()->currentPage(), 2);
+        f.saveScreenshot(QStringLiteral("main-1392-04-10.png"));
+    }
+
+    void aPageShowsItsDayInPersian()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran});
+        f.show();
+        const QStringList expected{
+            QStringLiteral("تهران"), QStringLiteral("روز صنعت و معدن و ..."), QStringLiteral("١٠ تیر"),
+            QStringLiteral("٠٤:٥١"), QStringLiteral("٠٦:٢٦"), QStringLiteral("١٣:٠٧"), QStringLiteral("٢٠:٢٥"),
+            QStringLiteral("٢٠:٤٥"), QStringLiteral("٠٠:١٦"), QStringLiteral("٠٤:٥٢"), QStringLiteral("٠٦:٢٧")};
+        QCOMPARE(MainScreenFixture::texts(f.pages().first()), expected);
+    }
+
+    void aCityThatIsNotACentreShowsItsOffsetsUnderItsOwnName()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({varamin, tehran});
+        f.show();
+        const QStringList texts = MainScreenFixture::texts(f.pages().last());
+        QCOMPARE(texts[0], QStringLiteral("ورامین"));
+        // Five minutes before تهران's times, the next day's dawn and sunrise too.
+        QCOMPARE(texts.mid(3), (QStringList{QStringLiteral("٠٤:٤٦"), QStringLiteral("٠٦:٢١"), QStringLiteral("١٣:٠٢"),
+                                            QStringLiteral("٢٠:٢٠"), QStringLiteral("٢٠:٤٠"), QStringLiteral("٠٠:١١"),
+                                            QStringLiteral("٠٤:٤٧"), QStringLiteral("٠٦:٢٢")}));
+        QCOMPARE(MainScreenFixture::texts(f.pages().first())[3], QStringLiteral("٠٤:٥١"));
+    }
+
+    void theIndicatorFollowsOnlyOffsetsThatRestOnAPage()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran, isfahan, mashhad, varamin});
+        MainViewController& main = f.show();
+        QCOMPARE(main.pageControl()->currentPage(), 3);
+
+        const QList<QPair<double, int>> moves{{0, 0}, {639.5, 0}, {650, 0}, {640, 2}, {320.5, 2}, {320, 1}};
+        for (const auto& [offset, page] : moves) {
+            main.scrollView()->setContentOffset(offset, false);
+            QCOMPARE(main.pageControl()->currentPage(), page);
+        }
+    }
+
+    void theIndicatorScrollsToItsPage()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran, isfahan, mashhad});
+        MainViewController& main = f.show();
+        main.pageControl()->setCurrentPage(1);
+        main.pageAction();
+        QTRY_COMPARE(main.scrollView()->contentOffset(), 320.0);
+    }
+
+    void controlsSitAtTheirFramesOnBothScreens_data()
+    {
+        QTest::addColumn<int>("screenHeight");
+        QTest::addColumn<QRect>("scrollView");
+        QTest::addColumn<QRect>("indicator");
+        QTest::addColumn<QRect>("options");
+        QTest::addColumn<QRect>("calendar");
+        QTest::addColumn<QRect>("nameLabel");
+        QTest::newRow("ordinary") << 480 << QRect(0, 0, 320, 460) << QRect(0, 425, 320, 36)
+                                  << QRect(290, 430, 18, 19) << QRect(15, 425, 34, 32) << QRect(500, 45, 100, 40);
+        QTest::newRow("tall") << 568 << QRect(0, 0, 320, 548) << QRect(0, 513, 320, 36) << QRect(290, 518, 18, 19)
+                              << QRect(15, 513, 34, 32) << QRect(500, 89, 100, 40);
+    }
+
+    void controlsSitAtTheirFramesOnBothScreens()
+    {
+        QFETCH(int, screenHeight);
+        QFETCH(QRect, scrollView);
+        QFETCH(QRect, indicator);
+        QFETCH(QRect, options);
+        QFETCH(QRect, calendar);
+        QFETCH(QRect, nameLabel);
+        MainScreenFixture f(summerDay, screenHeight);
+        f.choose({tehran, isfahan});
+        MainViewController& main = f.show();
+        QCOMPARE(f.window().height(), screenHeight - 20);
+        QCOMPARE(main.scrollView()->geometry(), scrollView);
+        QCOMPARE(main.pageControl()->geometry(), indicator);
+        QCOMPARE(frameOf(main, "optionsButton"), options);
+        QCOMPARE(frameOf(main, "calendarButton"), calendar);
+        // The second page's name, in the pager's content: the page's frame plus the label's.
+        CustomUIImageView* page = f.pages().last();
+        const QLabel* name = page->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).first();
+        QCOMPARE(QRect(page->mapToParent(name->pos()), name->size()), nameLabel);
+        QCOMPARE(main.scrollView()->contentWidth(), 640);
+        if (screenHeight == 568)
+            f.saveScreenshot(QStringLiteral("main-tall.png"));
+    }
+
+    void aPickedDayStaysUntilTheNextRefresh()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran});
+        MainViewController& main = f.show();
+        auto* calendar = new QWidget;
+        f.presentation().present(calendar, false);
+
+        main.closeCalendar(DateTimePersian::initWithPersianDate("920411", f.calendar), calendar);
+        QCOMPARE(f.presentation().top(), &main);
+        QCOMPARE(main.localDtp().getPersianDate(), std::string("920411"));
+        QCOMPARE(MainScreenFixture::texts(f.pages().first())[2], QStringLiteral("١١ تیر"));
+
+        main.refresh();
+        QCOMPARE(main.localDtp().getPersianDate(), std::string("920410"));
+        QCOMPARE(MainScreenFixture::texts(f.pages().first())[2], QStringLiteral("١٠ تیر"));
+    }
+
+    void aDayWithoutDataKeepsThePagesOfEveryCity()
+    {
+        MainScreenFixture f(test::tehran(2013, 7, 23, 12, 0));  // 1 Mordad 1392: not in the fixture
+        f.choose({tehran, varamin});
+        MainViewController& main = f.show();
+        QCOMPARE(main.pageCount(), 2);
+        QCOMPARE(main.pageControl()->numberOfPages(), 2);
+        const QStringList texts = MainScreenFixture::texts(f.pages().first());
+        QCOMPARE(texts.mid(0, 3), (QStringList{QStringLiteral("ورامین"), QString(), QStringLiteral("٠١ مرداد")}));
+        QCOMPARE(texts.mid(3), QStringList(8, QString()));
+    }
+
+    void threeCitiesToday()
+    {
+        SystemClock system;
+        MainScreenFixture f(system.now(), 480, MainScreenFixture::Data::shippedWhereBuilt);
+        if (!f.shipped)
+            f.copyDay(DateTimePersian::init(f.clock, f.calendar).getPersianDate());
+        f.choose({f.centreNamed("تهران"), f.centreNamed("اصفهان"), f.centreNamed("مشهد")});
+        MainViewController& main = f.show();
+        QCOMPARE(main.pageCount(), 3);
+        QVERIFY(!MainScreenFixture::texts(f.pages().last())[3].isEmpty());
+        f.saveScreenshot(QStringLiteral("main-today.png"));
+    }
+};
+
+}  // namespace kavenda
+
+QTEST_MAIN(kavenda::MainScreenTest)
+#include "MainScreenTest.moc"
