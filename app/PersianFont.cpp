@@ -10,7 +10,7 @@ void usePersianFont()
     for (const QString& family : {QStringLiteral("Nazli"), QStringLiteral("DejaVu Sans")}) {
         if (QFontDatabase::hasFamily(family)) {
             QFont font(family);
-            font.setPixelSize(14);
+            font.setPointSizeF(10.5);
             QApplication::setFont(font);
             return;
         }

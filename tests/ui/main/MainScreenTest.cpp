@@ -5,6 +5,7 @@
 #include "platform/qt/Pager.h"
 #include "platform/qt/PresentationStack.h"
 #include "platform/SystemClock.h"
+#include "screens/cities/CustomUITabBarController.h"
 #include "screens/main/CustomUIImageView.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/TehranTime.h"
@@ -165,6 +166,35 @@ private slots:
         main.refresh();
         QCOMPARE(main.localDtp().getPersianDate(), std::string("920410"));
         QCOMPARE(MainScreenFixture::texts(f.pages().first())[2], QStringLiteral("١٠ تیر"));
+    }
+
+    void withoutACityTheOptionsOpenAndDoneBringsThePagesBack()
+    {
+        MainScreenFixture f(summerDay);
+        MainViewController& main = f.show();
+        QCOMPARE(f.presentation().depth(), 2);
+        auto* options = qobject_cast<CustomUITabBarController*>(f.presentation().top());
+        QVERIFY(options);
+        QCOMPARE(options->parentDelegate(), static_cast<SelectionControllerDelegate*>(&main));
+        QCOMPARE(main.pageCount(), 0);
+
+        f.choose({isfahan});
+        options->parentDelegate()->closeForm();
+        QCOMPARE(f.presentation().top(), &main);
+        QCOMPARE(main.pageCount(), 1);
+        QCOMPARE(main.pageControl()->numberOfPages(), 1);
+        QCOMPARE(MainScreenFixture::texts(f.pages().first()).first(), QStringLiteral("اصفهان"));
+    }
+
+    void theOptionsButtonOpensTheOptionsOverThePages()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran});
+        MainViewController& main = f.show();
+        QCOMPARE(f.presentation().depth(), 1);
+        QTest::mouseClick(main.findChild<QAbstractButton*>(QStringLiteral("optionsButton")), Qt::LeftButton);
+        QCOMPARE(f.presentation().depth(), 2);
+        QVERIFY(qobject_cast<CustomUITabBarController*>(f.presentation().top()));
     }
 
     void aDayWithoutDataKeepsThePagesOfEveryCity()
