@@ -1,4 +1,3 @@
-#include "app/AdvancingClock.h"
 #include "app/AppDelegate.h"
 #include "app/PersianFont.h"
 #include "app/ReminderList.h"
@@ -7,6 +6,7 @@
 #include "platform/FixedScreen.h"
 #include "platform/IcuPersianCalendar.h"
 #include "platform/StderrLog.h"
+#include "platform/ShiftedClock.h"
 #include "platform/SystemClock.h"
 #include "platform/qt/DesktopNotifier.h"
 #include "platform/qt/DesktopPaths.h"
@@ -68,6 +68,7 @@ int main(int argc, char** argv)
     parser.addOptions({now, tall, dataDir, screenshot, reminders});
     parser.process(*app);
 
+    SystemClock systemClock;
     std::unique_ptr<Clock> clock;
     if (parser.isSet(now)) {
         const QDateTime start = QDateTime::fromString(parser.value(now), Qt::ISODate);
@@ -75,7 +76,7 @@ int main(int argc, char** argv)
             std::fprintf(stderr, "kavenda: --now wants a local date and time such as 2013-07-01T12:00\n");
             return 2;
         }
-        clock = std::make_unique<AdvancingClock>(Instant(std::chrono::seconds(start.toSecsSinceEpoch())));
+        clock = std::make_unique<ShiftedClock>(Instant(std::chrono::seconds(start.toSecsSinceEpoch())), systemClock);
     } else {
         clock = std::make_unique<SystemClock>();
     }
