@@ -1,0 +1,268 @@
+#include "app/PersianFont.h"
+#include "platform/qt/Animations.h"
+#include "platform/qt/NavigationStack.h"
+#include "platform/qt/PresentationStack.h"
+#include "screens/cities/CustomUITabBarController.h"
+#include "screens/cities/EditableCityList.h"
+#include "screens/cities/OptionsViewController.h"
+#include "screens/cities/SearchController.h"
+#include "screens/cities/SelectionController.h"
+#include "tests/ui/cities/OptionsFixture.h"
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QToolButton>
+#include <QtTest>
+
+namespace kavenda {
+namespace {
+
+using test::OptionsFixture;
+
+constexpr int tehran = 32, isfahan = 33, kerman = 35, yazd = 36, kashan = 62, shahriar = 63;
+
+QStringList resultNames(const SearchController& search)
+{
+    QStringList names;
+    for (int row = 0; row < search.tblResult()->count(); ++row)
+        names.append(search.tblResult()->item(row)->text());
+    names.sort();
+    return names;
+}
+
+// One key press per letter, as a Persian keyboard sends them (QTest types Latin letters only).
+void typeText(QLineEdit* field, const QString& text)
+{
+    for (const QChar letter : text) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
+        QCoreApplication::sendEvent(field, &press);
+    }
+}
+
+void clickAt(QWidget* viewport, const QPoint& at)
+{
+    QTest::mouseClick(viewport, Qt::LeftButton, {}, at);
+}
+
+// Confirms the delete control of a row, as a user does: the control, then the delete button.
+void deleteRow(EditableCityList* list, int row)
+{
+    clickAt(list->viewport(), list->deleteControlRect(row).center());
+    QCOMPARE(list->confirmingRow(), row);
+    clickAt(list->viewport(), list->confirmRect(row).center());
+}
+
+void dragRow(EditableCityList* list, int from, int to)
+{
+    QWidget* viewport = list->viewport();
+    const QPoint grip = list->gripRect(from).center();
+    const QPoint target(grip.x(), list->visualItemRect(list->item(to)).center().y());
+    QTest::mousePress(viewport, Qt::LeftButton, {}, grip);
+    QMouseEvent move(QEvent::MouseMove, target, viewport->mapToGlobal(target), Qt::NoButton, Qt::LeftButton, {});
+    QCoreApplication::sendEvent(viewport, &move);
+    QTest::mouseRelease(viewport, Qt::LeftButton, {}, target);
+}
+
+bool isGrey(const QListWidgetItem* item)
+{
+    return item->foreground().style() != Qt::NoBrush && item->foreground().color() == QColor(Qt::gray);
+}
+
+}  // namespace
+
+class CitiesScreensTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        setAnimationsEnabled(false);
+        usePersianFont();
+    }
+
+    void theLayoutIsLoadedOnceWithFiveTabs()
+    {
+        OptionsFixture f;
+        auto* options = new OptionsViewController(f.db(), [] {});
+        CustomUITabBarController* tabs = options->tabBarControl();
+        QCOMPARE(options->tabBarControl(), tabs);
+        QCOMPARE(tabs->findChildren<SelectionController*>().size(), 1);
+        QCOMPARE(tabs->count(), 5);
+        QVERIFY(qobject_cast<NavigationStack*>(tabs->page(0)));
+        QCOMPARE(tabs->page(1)->windowTitle(), QStringLiteral("تنظیمات"));
+        QCOMPARE(tabs->page(4)->windowTitle(), QStringLiteral("درباره ما"));
+        QPointer<OptionsViewController> loader = options;
+        delete tabs;
+        QVERIFY(!loader);
+    }
+
+    void aFirstStartOpensTheSearchOnceAndLeavesEverythingButTheAboutTabDisabled()
+    {
+        OptionsFixture f;
+        f.open();
+        QCOMPARE(f.tabs()->currentIndex(), 0);
+        QTRY_VERIFY(f.search());
+        QVERIFY(f.tabs()->isTabBarHidden());
+        QVERIFY(f.navigation()->isNavigationBarHidden());
+        QCOMPARE(f.search()->typeID(), 0);
+        QCOMPARE(f.search()->tblResult()->count(), 6);
+
+        QTest::mouseClick(f.search()->cancelButton(), Qt::LeftButton);
+        QCOMPARE(f.navigation()->top(), f.selection());
+        QVERIFY(!f.tabs()->isTabBarHidden());
+        QVERIFY(!f.navigation()->isNavigationBarHidden());
+        QVERIFY(f.orderings().isEmpty());
+        QVERIFY(!f.selection()->btnDone()->isEnabled());
+        QVERIFY(f.selection()->btnSearch()->isEnabled());
+        QVERIFY(f.tabs()->isTabEnabled(0));
+        for (int tab = 1; tab <= 3; ++tab)
+            QVERIFY2(!f.tabs()->isTabEnabled(tab), qPrintable(QString::number(tab)));
+        QVERIFY(f.tabs()->isTabEnabled(4));
+        QTest::qWait(50);
+        QCOMPARE(f.navigation()->top(), f.selection());
+
+        QTest::mouseClick(f.tabs()->tabButton(2), Qt::LeftButton);
+        QCOMPARE(f.tabs()->currentIndex(), 0);
+        QTest::mouseClick(f.tabs()->tabButton(4), Qt::LeftButton);
+        QCOMPARE(f.tabs()->currentIndex(), 4);
+        QTest::mouseClick(f.tabs()->tabButton(0), Qt::LeftButton);
+        // the search does not come back with the tab
+        QCOMPARE(f.navigation()->top(), f.selection());
+    }
+
+    void typingWithArabicLettersFindsAndAddsTheCity()
+    {
+        OptionsFixture f;
+        f.choose({tehran});
+        f.open();
+        QTest::qWait(20);
+        // with a city chosen the search waits to be asked
+        QCOMPARE(f.navigation()->top(), f.selection());
+        QTest::mouseClick(f.selection()->btnSearch(), Qt::LeftButton);
+        SearchController* search = f.search();
+        QVERIFY(search);
+
+        typeText(search->searchBar(), QStringLiteral("\u0643\u0631"));
+        QCOMPARE(resultNames(*search), QStringList{QStringLiteral("کرمان (کرمان)")});
+        search->searchBar()->clear();
+        typeText(search->searchBar(), QStringLiteral("تهران"));
+        // a chosen city is no candidate
+        QCOMPARE(resultNames(*search), QStringList{QStringLiteral("شهریار (تهران)")});
+        search->searchBar()->clear();
+        typeText(search->searchBar(), QStringLiteral("'"));
+        QCOMPARE(search->tblResult()->count(), 0);
+        search->searchBar()->clear();
+        typeText(search->searchBar(), QStringLiteral("\u0627\u0646"));
+        QCOMPARE(search->tblResult()->count(), 4);
+        f.saveScreenshot(QStringLiteral("cities-search.png"));
+
+        const QString kermanName = QStringLiteral("کرمان (کرمان)");
+        const auto items = search->tblResult()->findItems(kermanName, Qt::MatchExactly);
+        QCOMPARE(items.size(), 1);
+        QTest::mouseClick(search->tblResult()->viewport(), Qt::LeftButton, {},
+                          search->tblResult()->visualItemRect(items.first()).center());
+        QCOMPARE(f.navigation()->top(), f.selection());
+        QCOMPARE(f.orderings(), (QStringList{QStringLiteral("32:0"), QStringLiteral("35:2")}));
+        QCOMPARE(f.listedNames(), (QStringList{QStringLiteral("تهران (تهران)"), kermanName}));
+        QVERIFY(f.selection()->btnDone()->isEnabled());
+    }
+
+    void addingTheFirstCityEnablesDoneAndThePreferenceTabs()
+    {
+        OptionsFixture f;
+        f.open();
+        QTRY_VERIFY(f.search());
+        typeText(f.search()->searchBar(), QStringLiteral("\u064A\u0632\u062F"));  // Arabic yeh
+        QCOMPARE(f.search()->tblResult()->count(), 1);
+        QTest::keyClick(f.search()->searchBar(), Qt::Key_Return);
+        QCOMPARE(f.orderings(), QStringList{QStringLiteral("36:1")});
+        QVERIFY(f.selection()->btnDone()->isEnabled());
+        for (int tab = 1; tab <= 3; ++tab)
+            QVERIFY(f.tabs()->isTabEnabled(tab));
+    }
+
+    void deletingKeepsShippedPlacesAndDropsUserMadeOnes()
+    {
+        OptionsFixture f;
+        f.choose({kashan, shahriar});
+        f.open();
+        EditableCityList* list = f.selection()->tbl();
+        QCOMPARE(list->count(), 2);
+
+        deleteRow(list, 1);
+        QCOMPARE(f.listedNames(), QStringList{QStringLiteral("کاشان (اصفهان)")});
+        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 63"), 0);
+        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 63"), 0);
+        QVERIFY(f.tabs()->isTabEnabled(1));
+
+        // Pressing elsewhere withdraws the question.
+        clickAt(list->viewport(), list->deleteControlRect(0).center());
+        clickAt(list->viewport(), list->visualItemRect(list->item(0)).center());
+        QCOMPARE(list->confirmingRow(), -1);
+        QCOMPARE(list->count(), 1);
+
+        deleteRow(list, 0);
+        QCOMPARE(list->count(), 0);
+        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 62"), 1);
+        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 62"), 1);
+        QVERIFY(!f.selection()->btnDone()->isEnabled());
+        for (int tab = 1; tab <= 3; ++tab)
+            QVERIFY(!f.tabs()->isTabEnabled(tab));
+        QVERIFY(f.tabs()->isTabEnabled(4));
+        // emptying the list does not open the search
+        QCOMPARE(f.navigation()->top(), f.selection());
+    }
+
+    void draggingRenumbersAndTheColoursFollowTheOrder()
+    {
+        OptionsFixture f;
+        f.choose({tehran, isfahan, kerman, yazd});
+        f.open();
+        EditableCityList* list = f.selection()->tbl();
+        QVERIFY(!isGrey(list->item(0)));
+        QVERIFY(isGrey(list->item(1)));
+
+        dragRow(list, 0, 2);
+        QCOMPARE(f.orderings(), (QStringList{"33:0", "35:1", "32:2", "36:3"}));
+        QCOMPARE(f.listedNames().first(), QStringLiteral("اصفهان (اصفهان)"));
+        QCOMPARE(f.listedNames().at(2), QStringLiteral("تهران (تهران)"));
+        QVERIFY(!isGrey(list->item(0)));
+        for (int row = 1; row < 4; ++row)
+            QVERIFY(isGrey(list->item(row)));
+
+        dragRow(list, 3, 1);
+        QCOMPARE(f.orderings(), (QStringList{"33:0", "36:1", "35:2", "32:3"}));
+        f.saveScreenshot(QStringLiteral("cities-list.png"));
+    }
+
+    void theListGrowsWithItsCitiesInsideItsScroller()
+    {
+        OptionsFixture f;
+        f.choose({tehran, isfahan, kerman, yazd, kashan, shahriar});
+        f.open();
+        QCOMPARE(f.selection()->tbl()->geometry(), QRect(0, 0, 312, 308));
+        QCOMPARE(f.selection()->tblScrollView()->geometry(), QRect(4, 5, 312, 308));
+        QCOMPARE(f.selection()->tblScrollView()->widget()->height(), 309);
+        QCOMPARE(f.selection()->createNewCityTable()->geometry(), QRect(4, 319, 312, 43));
+    }
+
+    void doneRebuildsTheRemindersBeforeTheOptionsClose()
+    {
+        OptionsFixture f;
+        f.choose({tehran});
+        f.open();
+        QCOMPARE(f.notifications.cancelCalls, 0);
+        QTest::mouseClick(f.selection()->btnDone(), Qt::LeftButton);
+        QCOMPARE(f.notifications.cancelCalls, 1);
+        QCOMPARE(f.pendingAtClose.size(), 1);
+        QVERIFY(f.pendingAtClose.first() > 0);
+        QCOMPARE(f.presentation()->depth(), 1);
+    }
+};
+
+}  // namespace kavenda
+
+QTEST_MAIN(kavenda::CitiesScreensTest)
+#include "CitiesScreensTest.moc"

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "data/MyDB.h"
+#include "platform/FixedClock.h"
+#include "platform/FixedPaths.h"
+#include "platform/IcuPersianCalendar.h"
+#include "reminders/MyNotification.h"
+#include "screens/cities/SelectionControllerDelegate.h"
+#include "tests/support/RecordingLog.h"
+#include "tests/support/RecordingNotificationService.h"
+#include "tests/support/ScriptedRandom.h"
+#include "tests/support/TempFolder.h"
+
+#include <QPointer>
+#include <QStringList>
+
+#include <initializer_list>
+#include <memory>
+
+class QWidget;
+
+namespace kavenda {
+
+class CustomUITabBarController;
+class NavigationStack;
+class PresentationStack;
+class SearchController;
+class SelectionController;
+
+namespace test {
+
+// The options presented over a stand-in main screen, on a fixture database, with real
+// reminders recorded by a fake notification service.
+class OptionsFixture : public SelectionControllerDelegate {
+public:
+    OptionsFixture();
+    ~OptionsFixture() override;
+
+    // Chooses cities in this order (Ordering 0, 1, ...).
+    void choose(std::initializer_list<int> stateIds);
+    void open();
+
+    void closeForm() override;
+
+    CustomUITabBarController* tabs() const { return tabs_; }
+    NavigationStack* navigation() const;
+    SelectionController* selection() const;
+    // The search on top of the list, or null.
+    SearchController* search() const;
+    PresentationStack* presentation() const { return presentation_; }
+
+    QStringList listedNames() const;
+    // "id:ordering" of the chosen cities in ascending order.
+    QStringList orderings();
+    int countOf(const char* sql);
+    void saveScreenshot(const QString& name) const;
+
+    MyDB& db() { return db_; }
+    RecordingNotificationService notifications;
+    // How many reminders were pending each time the options were closed.
+    QList<int> pendingAtClose;
+
+private:
+    TempFolder temp_;
+    FixedPaths paths_;
+    RecordingLog log_;
+    MyDB db_;
+    FixedClock clock_;
+    IcuPersianCalendar calendar_;
+    ScriptedRandom random_{{0}};
+    MyNotification reminders_;
+    std::unique_ptr<QWidget> window_;
+    PresentationStack* presentation_ = nullptr;
+    QPointer<CustomUITabBarController> tabs_;
+};
+
+}  // namespace test
+}  // namespace kavenda
