@@ -106,6 +106,10 @@ void SelectionController::showCities()
         btnDone_->setEnabled(cities_.canFinish());
     if (auto* tabs = tabBarController())
         tabs->setPreferencesEnabled(cities_.preferencesEnabled());
+    // The holder is always a point taller than the list; a bar shows only when rows are hidden.
+    tblScrollView_->setVerticalScrollBarPolicy(cities_.listHeight() > ChosenCities::minimumListHeight
+                                                   ? Qt::ScrollBarAsNeeded
+                                                   : Qt::ScrollBarAlwaysOff);
     tbl_->setGeometry(0, 0, ChosenCities::listWidth, cities_.listHeight());
     listHolder_->resize(ChosenCities::listWidth, cities_.scrollContentHeight());
 }

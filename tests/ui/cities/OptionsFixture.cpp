@@ -111,6 +111,8 @@ int OptionsFixture::countOf(const char* sql)
 
 void OptionsFixture::saveScreenshot(const QString& name) const
 {
+    // Item views and layouts settle in posted events; let them before the picture.
+    QTest::qWait(50);
     QDir().mkpath(QStringLiteral(KAVENDA_SCREENSHOT_DIR));
     QVERIFY(window_->grab().save(QStringLiteral(KAVENDA_SCREENSHOT_DIR) + QLatin1Char('/') + name, "PNG"));
 }
