@@ -6,6 +6,7 @@
 #include "screens/cities/EditableCityList.h"
 #include "screens/cities/OptionsViewController.h"
 #include "screens/cities/SearchController.h"
+#include "screens/cities/SearchControllerDelegate.h"
 #include "screens/cities/SelectionController.h"
 #include "tests/ui/cities/OptionsFixture.h"
 
@@ -64,6 +65,15 @@ void dragRow(EditableCityList* list, int from, int to)
     QCoreApplication::sendEvent(viewport, &move);
     QTest::mouseRelease(viewport, Qt::LeftButton, {}, target);
 }
+
+struct RecordingSearchDelegate final : SearchControllerDelegate {
+    void closeForm() override { calls.append(QStringLiteral("closeForm")); }
+    void setProvince(int provinceId, const std::string& provinceName) override
+    {
+        calls.append(QStringLiteral("setProvince %1 %2").arg(provinceId).arg(QString::fromStdString(provinceName)));
+    }
+    QStringList calls;
+};
 
 bool isGrey(const QListWidgetItem* item)
 {
@@ -181,6 +191,26 @@ private slots:
         QVERIFY(f.selection()->btnDone()->isEnabled());
         for (int tab = 1; tab <= 3; ++tab)
             QVERIFY(f.tabs()->isTabEnabled(tab));
+    }
+
+    void provinceModeListsProvincesAndHandsThePickBack()
+    {
+        OptionsFixture f;
+        RecordingSearchDelegate delegate;
+        SearchController search(f.db(), 1);
+        search.setDelegate(&delegate);
+        QCOMPARE(resultNames(search), (QStringList{QStringLiteral("اصفهان"), QStringLiteral("تهران"),
+                                                   QStringLiteral("کرمان"), QStringLiteral("یزد")}));
+        QTest::mouseClick(search.cancelButton(), Qt::LeftButton);
+        QCOMPARE(delegate.calls, QStringList{QStringLiteral("closeForm")});
+
+        delegate.calls.clear();
+        typeText(search.searchBar(), QStringLiteral("كر"));
+        QCOMPARE(search.tblResult()->count(), 1);
+        QTest::mouseClick(search.tblResult()->viewport(), Qt::LeftButton, {},
+                          search.tblResult()->visualItemRect(search.tblResult()->item(0)).center());
+        QCOMPARE(delegate.calls, (QStringList{QStringLiteral("setProvince 4 کرمان"), QStringLiteral("closeForm")}));
+        QVERIFY(f.orderings().isEmpty());
     }
 
     void deletingKeepsShippedPlacesAndDropsUserMadeOnes()
