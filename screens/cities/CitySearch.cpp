@@ -21,7 +21,6 @@ void CitySearch::textDidChange(std::string_view typed)
 
 void CitySearch::updateDataSource(std::string_view text)
 {
-    datasource_.clear();
     const auto statement = isProvinceMode() ? sql::searchProvinces : sql::searchUnchosenCities;
     datasource_ = db_.run(formatSql(statement, {text}));
 }

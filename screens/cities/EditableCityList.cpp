@@ -18,7 +18,6 @@ EditableCityList::EditableCityList(QWidget* parent) : QListWidget(parent)
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);
-    setMouseTracking(false);
 }
 
 void EditableCityList::setCities(const ChosenCities& cities)
