@@ -18,7 +18,10 @@ NavigationBar::NavigationBar(QWidget* parent) : QWidget(parent), title_(new QLab
     title_->setAlignment(Qt::AlignCenter);
     QFont font = title_->font();
     font.setBold(true);
-    font.setPointSizeF(font.pointSizeF() * 1.15);
+    if (font.pointSizeF() > 0)
+        font.setPointSizeF(font.pointSizeF() * 1.15);
+    else
+        font.setPixelSize(qRound(font.pixelSize() * 1.15));
     title_->setFont(font);
     title_->setStyleSheet(QStringLiteral("color: white;"));
 }

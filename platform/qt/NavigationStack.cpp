@@ -117,6 +117,8 @@ void NavigationStack::resizeEvent(QResizeEvent* event) {
 }
 
 void NavigationStack::forget(QWidget* screen) {
+    // A screen on its way out may outlive the stack's own members, so it stops reporting.
+    disconnect(screen, nullptr, this, nullptr);
     const BarButtons slot = buttons_.take(screen);
     for (QAbstractButton* button : {slot.left.data(), slot.right.data()})
         if (button)

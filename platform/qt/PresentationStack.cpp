@@ -8,10 +8,8 @@ namespace kavenda {
 PresentationStack::PresentationStack(QWidget* parent) : QWidget(parent) {}
 
 void PresentationStack::setRoot(QWidget* screen) {
-    while (screens_.size() > 1)
-        screens_.takeLast()->deleteLater();
-    if (!screens_.isEmpty())
-        screens_.takeFirst()->deleteLater();
+    while (!screens_.isEmpty())
+        release(screens_.takeLast())->deleteLater();
     adopt(screen);
     screen->show();
     emit topChanged();
@@ -27,7 +25,7 @@ void PresentationStack::present(QWidget* screen, bool animated) {
 void PresentationStack::dismiss(bool animated) {
     if (screens_.size() < 2)
         return;
-    QWidget* gone = screens_.takeLast();
+    QWidget* gone = release(screens_.takeLast());
     flip(gone, top(), false, animated);
     gone->deleteLater();
     emit topChanged();
@@ -47,6 +45,12 @@ void PresentationStack::resizeEvent(QResizeEvent* event) {
     QWidget::resizeEvent(event);
     for (QWidget* screen : screens_)
         screen->setGeometry(rect());
+}
+
+// A screen on its way out may outlive the stack's own members, so it stops reporting.
+QWidget* PresentationStack::release(QWidget* screen) {
+    disconnect(screen, nullptr, this, nullptr);
+    return screen;
 }
 
 void PresentationStack::adopt(QWidget* screen) {

@@ -31,6 +31,7 @@ protected:
 
 private:
     void adopt(QWidget* screen);
+    QWidget* release(QWidget* screen);
     void flip(QWidget* from, QWidget* to, bool forward, bool animated);
 
     QList<QWidget*> screens_;

@@ -16,7 +16,6 @@ public:
     static constexpr int lastPreferenceTab = 3;
 
     explicit CustomUITabBarController(QWidget* parent = nullptr);
-    ~CustomUITabBarController() override;
 
     SelectionControllerDelegate* parentDelegate() const { return parentDelegate_; }
     void setParentDelegate(SelectionControllerDelegate* delegate) { parentDelegate_ = delegate; }

@@ -42,12 +42,7 @@ OptionsFixture::OptionsFixture()
     window_->show();
 }
 
-OptionsFixture::~OptionsFixture()
-{
-    // The stack follows each screen it loses, so its screens go while it is still whole.
-    while (QWidget* screen = presentation_->top())
-        delete screen;
-}
+OptionsFixture::~OptionsFixture() = default;
 
 void OptionsFixture::choose(std::initializer_list<int> stateIds)
 {
