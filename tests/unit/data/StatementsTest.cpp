@@ -83,38 +83,6 @@ TEST_F(StatementsTest, OffsetRowsSortAfterEveryDateKeyAndStayOutOfTheView)
     EXPECT_EQ(db().ExecuteScaler("SELECT COUNT(*) FROM vTimes WHERE Date = 14000101"), "0");
 }
 
-TEST_F(StatementsTest, ChoosingOrderingAndRemoving)
-{
-    EXPECT_EQ(db().ExecuteScaler(sql::chosenCityCount), "0");
-    choose(32, 1);
-    choose(33, 2);
-    const RowSet list = db().Execute(sql::chosenCitiesWithProvince);
-    ASSERT_EQ(list.size(), 2u);
-    EXPECT_EQ(list[0].at("StateName"), "تهران (تهران)");
-    EXPECT_EQ(list[1].at("StateName"), "اصفهان (اصفهان)");
-
-    ASSERT_TRUE(db().ExecuteNonQuery(formatSql(sql::updateOrdering, {0, 33})));
-    ASSERT_TRUE(db().ExecuteNonQuery(formatSql(sql::updateOrdering, {1, 32})));
-    EXPECT_EQ(db().Execute(sql::firstChosenCity).at(0).at("StateID"), "33");
-    EXPECT_EQ(db().Execute(sql::chosenCitiesLastFirst).at(0).at("StateID"), "32");
-    EXPECT_EQ(db().ExecuteScaler(sql::chosenCityCountUnnamed), "2");
-
-    ASSERT_TRUE(db().ExecuteNonQuery(formatSql(sql::deleteChosenCity, {33})));
-    EXPECT_EQ(db().ExecuteScaler(sql::chosenCityCount), "1");
-}
-
-TEST_F(StatementsTest, SearchFindsUnchosenCitiesAndProvincesEvenWithQuotes)
-{
-    choose(33, 1);
-    const RowSet cities = db().Execute(formatSql(sql::searchUnchosenCities, {"هرا"}));
-    ASSERT_EQ(cities.size(), 1u);
-    EXPECT_EQ(cities[0].at("StateName"), "تهران (تهران)");
-    EXPECT_TRUE(db().Execute(formatSql(sql::searchUnchosenCities, {"اصفه"})).empty());
-    EXPECT_EQ(db().Execute(formatSql(sql::searchProvinces, {"اصفه"})).size(), 1u);
-    EXPECT_TRUE(db().Execute(formatSql(sql::searchProvinces, {"a'b"})).empty());
-    EXPECT_EQ(db().columnList().size(), 2u);  // it compiled
-}
-
 TEST_F(StatementsTest, OccasionsMonthsAndSettings)
 {
     const RowSet coming = db().Execute(formatSql(sql::comingOccasions, {"920231"}));
@@ -136,17 +104,6 @@ TEST_F(StatementsTest, OccasionsMonthsAndSettings)
     EXPECT_EQ(settings.at("Item5"), "50");
     EXPECT_EQ(db().ExecuteScaler(sql::soundChoice), "9");
     EXPECT_EQ(db().ExecuteScaler(sql::occasionTime), "08:30");
-}
-
-TEST_F(StatementsTest, DeletingAUserCityRemovesItsRows)
-{
-    ASSERT_TRUE(db().ExecuteNonQuery(formatSql(sql::insertCity, {"Shah's town", 2})));
-    EXPECT_EQ(db().ExecuteScaler("SELECT Name FROM tStates WHERE StateID = 34"), "Shah's town");
-    ASSERT_TRUE(db().ExecuteNonQuery(formatSql(sql::insertOffsetRow, {34, "14000101", "1", "1", "1", "1", "1", "1"})));
-    ASSERT_TRUE(db().ExecuteNonQuery(formatSql(sql::deletePlace, {34})));
-    ASSERT_TRUE(db().ExecuteNonQuery(formatSql(sql::deletePlaceTimes, {34})));
-    EXPECT_EQ(db().ExecuteScaler("SELECT COUNT(*) FROM tTimes WHERE StateID = 34"), "0");
-    EXPECT_TRUE(log.lines.empty());
 }
 
 }  // namespace

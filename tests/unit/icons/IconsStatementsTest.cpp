@@ -2,12 +2,6 @@
 #include "data/IntValue.h"
 #include "data/Statements.h"
 #include "calendar/Utility.h"
-#include "platform/FixedClock.h"
-#include "platform/IcuPersianCalendar.h"
-#include "reminders/MyNotification.h"
-#include "tests/support/RecordingNotificationService.h"
-#include "tests/support/ScriptedRandom.h"
-#include "tests/support/TehranTime.h"
 #include "tests/unit/icons/ShippedIcons.h"
 
 namespace kavenda {
@@ -98,37 +92,6 @@ TEST_F(IconsStatements, AUserCityTakesTheNextIdentifierAndStaysOutOfTheDays)
     // Keys compare as numbers: as texts, '14000101' would sort below '920101'.
     EXPECT_EQ(scalar("SELECT COUNT(*) FROM tTimes WHERE StateID = 63 AND Date >= '920101'"), "1");
     EXPECT_EQ(scalar("SELECT COUNT(*) FROM vTimes WHERE StateID = 63"), "0");
-}
-
-TEST_F(IconsStatements, ARebuildForTodayWithEverythingOn)
-{
-    ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertChosenCity, {tehranCentre, 1})));
-    ASSERT_TRUE(db.ExecuteNonQuery("UPDATE tSetting SET Item3 = 10, Item4 = 20, Item5 = 15, Item7 = '08:00'"));
-    FixedClock clock(test::tehran(2026, 11, 22, 0, 1));
-    IcuPersianCalendar calendar;
-    test::RecordingNotificationService notifications;
-    test::ScriptedRandom random({0});
-    MyNotification(db, clock, calendar, notifications, random, log).update();
-
-    int prayerRecords = 0;
-    for (const NotificationRecord& r : notifications.records) {
-        if (r.soundName == "times.wav")
-            continue;
-        ++prayerRecords;
-        const CivilTime at = calendar.gregorianFields(r.fireDate);
-        const int minutes = at.hour * 60 + at.minute;
-        // Late autumn in Tehran, no summer hour.
-        if (r.alertBody == "اذان صبح به افق تهران") {
-            EXPECT_TRUE(minutes > 5 * 60 && minutes < 5 * 60 + 30) << at.hour << ":" << at.minute;
-        }
-        if (r.alertBody == "اذان ظهر به افق تهران") {
-            EXPECT_TRUE(minutes > 11 * 60 + 45 && minutes < 11 * 60 + 55) << at.hour << ":" << at.minute;
-        }
-        if (r.alertBody == "اذان مغرب به افق تهران") {
-            EXPECT_TRUE(minutes > 17 * 60 && minutes < 17 * 60 + 20) << at.hour << ":" << at.minute;
-        }
-    }
-    EXPECT_EQ(prayerRecords, 30);
 }
 
 }  // namespace
