@@ -1,5 +1,7 @@
 #include "calendar/DateTimePersian.h"
 
+#include "calendar/TimeOfDay.h"
+
 #include "data/Format.h"
 #include "data/IntValue.h"
 #include "platform/Clock.h"
@@ -19,19 +21,6 @@ constexpr std::array<std::string_view, 12> monthNames{
 constexpr int lastYearWithSummerHour = 1401;
 constexpr int lastDayWithSummerHour = 185;
 constexpr int minutesPerDay = 24 * 60;
-
-struct HourMinute {
-    int hour;
-    int minute;
-};
-
-HourMinute splitTime(std::string_view time)
-{
-    const std::size_t colon = time.find(':');
-    if (colon == std::string_view::npos)
-        return {intValue(time), 0};
-    return {intValue(time.substr(0, colon)), intValue(time.substr(colon + 1))};
-}
 
 }  // namespace
 
@@ -121,7 +110,7 @@ std::string DateTimePersian::getFullPersianDate() const
 
 std::string DateTimePersian::formatHour(std::string_view time) const
 {
-    HourMinute t = splitTime(time);
+    TimeOfDay t = readTimeOfDay(time);
     if (hasSummerHour())
         t.hour = (t.hour + 1) % 24;
     return format("%02d:%02d", {t.hour, t.minute});
@@ -129,7 +118,7 @@ std::string DateTimePersian::formatHour(std::string_view time) const
 
 std::string DateTimePersian::add(std::string_view time, std::string_view timeToInterval)
 {
-    const HourMinute t = splitTime(time);
+    const TimeOfDay t = readTimeOfDay(time);
     const int total = ((t.hour * 60 + t.minute + intValue(timeToInterval)) % minutesPerDay + minutesPerDay) % minutesPerDay;
     return format("%d:%d", {total / 60, total % 60});
 }

@@ -1,6 +1,7 @@
 #include "reminders/MyNotification.h"
 
 #include "calendar/DateTimePersian.h"
+#include "calendar/TimeOfDay.h"
 #include "calendar/Utility.h"
 #include "data/Format.h"
 #include "data/IntValue.h"
@@ -113,10 +114,14 @@ void MyNotification::schedulePrayerTimes(const RowSet& city, const RowSet& setti
         firstDay = 1;
     }
 
+    std::array<int, typeCount> values{};
+    for (int type = 0; type < typeCount; ++type)
+        values[static_cast<std::size_t>(type)] = intValue(valueOf(settings, 0, settingName(type)));
+
     const Instant now = clock_.now();
     for (std::size_t row = firstDay; row < times.size(); ++row) {
         for (int type = 0; type < typeCount; ++type) {
-            const int value = intValue(valueOf(settings, 0, settingName(type)));
+            const int value = values[static_cast<std::size_t>(type)];
             if (value == 0)
                 continue;
             const std::string time = valueOf(times, row, typeColumn(type));
@@ -142,8 +147,8 @@ void MyNotification::cancelAll()
 Instant MyNotification::getDate(std::string_view dateKey, std::string_view time) const
 {
     const auto day = DateTimePersian::initWithPersianDate(dateKey, calendar_);
-    const std::string shown = day.formatHour(time);
-    return momentOf(day, intValue(shown), intValue(std::string_view(shown).substr(3)));
+    const TimeOfDay shown = readTimeOfDay(day.formatHour(time));
+    return momentOf(day, shown.hour, shown.minute);
 }
 
 Instant MyNotification::momentOf(const DateTimePersian& day, int hour, int minute) const
@@ -181,20 +186,18 @@ void MyNotification::add(Instant moment, std::string_view cityName, int type, in
 void MyNotification::updateCalendarEvents(std::string_view time)
 {
     // "0", and anything else that is not a time with a colon, means the announcements are off.
-    const std::size_t colon = time.find(':');
-    if (colon == std::string_view::npos)
+    if (time.find(':') == std::string_view::npos)
         return;
     log_.line(std::string(time));
 
     const std::string today = DateTimePersian::init(clock_, calendar_).getPersianDate();
     const RowSet occasions = db_.Execute(formatSql(sql::comingOccasions, {today}));
     const Instant now = clock_.now();
-    const int hour = intValue(time.substr(0, colon));
-    const int minute = intValue(time.substr(colon + 1));
+    const TimeOfDay at = readTimeOfDay(time);
     for (std::size_t row = 0; row < occasions.size(); ++row) {
         // The chosen time is already wall-clock time: no summer hour to add or take off.
         const Instant moment =
-            momentOf(DateTimePersian::initWithPersianDate(valueOf(occasions, row, "Date"), calendar_), hour, minute);
+            momentOf(DateTimePersian::initWithPersianDate(valueOf(occasions, row, "Date"), calendar_), at.hour, at.minute);
         if (moment < now)
             continue;
         std::string text = valueOf(occasions, row, "Description");
