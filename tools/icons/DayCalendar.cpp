@@ -1,15 +1,16 @@
 #include "tools/icons/DayCalendar.h"
 
+#include "tools/astronomy/Sun.h"
+
 #include <unicode/calendar.h>
 #include <unicode/timezone.h>
 
+#include <cmath>
 #include <stdexcept>
 
 namespace kavenda::icons {
 
 namespace {
-
-constexpr double millisPerDay = 86400000.0;
 
 std::unique_ptr<icu::Calendar> calendarFor(const char* locale)
 {
@@ -29,10 +30,19 @@ int field(const icu::Calendar& calendar, UCalendarDateFields which)
 
 }  // namespace
 
+long julianDayNumber(int year, int month, int day)
+{
+    return std::lround(astronomy::julianDay(year, month, day) + 0.5);
+}
+
+int weekday(long julianDayNumber)
+{
+    return static_cast<int>((julianDayNumber + 1) % 7);
+}
+
 DayCalendar::DayCalendar(int firstPersianYear)
     : persian_(calendarFor("fa_IR@calendar=persian")),
-      gregorian_(calendarFor("en_US@calendar=gregorian")),
-      hijri_(calendarFor("ar@calendar=islamic"))
+      gregorian_(calendarFor("en_US@calendar=gregorian"))
 {
     persian_->clear();
     persian_->set(firstPersianYear, 0, 1, 12, 0, 0);
@@ -45,13 +55,12 @@ CalendarDay DayCalendar::current() const
     UErrorCode status = U_ZERO_ERROR;
     const UDate noon = persian_->getTime(status);
     gregorian_->setTime(noon, status);
-    hijri_->setTime(noon - millisPerDay, status);
-    const int hijriLength = hijri_->getActualMaximum(UCAL_DATE, status);
     if (U_FAILURE(status))
         throw std::runtime_error("calendar conversion failed");
+    const int year = field(*gregorian_, UCAL_YEAR), month = field(*gregorian_, UCAL_MONTH) + 1;
+    const int day = field(*gregorian_, UCAL_DATE);
     return CalendarDay{field(*persian_, UCAL_YEAR), field(*persian_, UCAL_MONTH) + 1, field(*persian_, UCAL_DATE),
-                       field(*gregorian_, UCAL_YEAR), field(*gregorian_, UCAL_MONTH) + 1, field(*gregorian_, UCAL_DATE),
-                       field(*hijri_, UCAL_MONTH) + 1, field(*hijri_, UCAL_DATE), hijriLength};
+                       year, month, day, julianDayNumber(year, month, day)};
 }
 
 void DayCalendar::next()

@@ -6,16 +6,22 @@
 
 namespace kavenda::icons {
 
-// The civil dates of one day in the three calendars the data needs.
+// The civil dates of one day in the two calendars the data needs, and the day's count.
 struct CalendarDay {
     int persianYear, persianMonth, persianDay;
     int gregorianYear, gregorianMonth, gregorianDay;
-    int hijriMonth, hijriDay, hijriMonthLength;
+    long julianDayNumber;
 };
 
-// Walks the Persian calendar day by day from 1 Farvardin of a year. The Hijri date is ICU's
-// astronomical Islamic calendar one day late, which matches 39 of the 44 lunar occasions of
-// Iran's official calendar of 1392; ICU's other variants match fewer.
+// The Julian day number (the count of days that names a civil day) of a Gregorian date.
+long julianDayNumber(int year, int month, int day);
+
+// 0 for Sunday to 6 for Saturday.
+int weekday(long julianDayNumber);
+
+inline constexpr int friday = 5;
+
+// Walks the Persian calendar day by day from 1 Farvardin of a year.
 class DayCalendar {
 public:
     explicit DayCalendar(int firstPersianYear);
@@ -26,7 +32,6 @@ public:
 private:
     std::unique_ptr<icu::Calendar> persian_;
     std::unique_ptr<icu::Calendar> gregorian_;
-    std::unique_ptr<icu::Calendar> hijri_;
 };
 
 }  // namespace kavenda::icons

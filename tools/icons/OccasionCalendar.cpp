@@ -4,14 +4,18 @@ namespace kavenda::icons {
 
 namespace {
 
-void collect(DayEvents& events, const std::vector<Occasion>& occasions, int month, int day, int monthLength)
+constexpr int ramadan = 9;
+constexpr const char* qudsDay = "روز جهانی قدس";
+
+void collect(DayEvents& events, const std::vector<Occasion>& occasions, int year, int month, int day,
+             int monthLength)
 {
     for (const Occasion& o : occasions) {
         // An occasion on day 30 of a 29-day month falls on its last day.
         const bool sameDay = o.day == day || (day == monthLength && o.day > monthLength);
         if (o.month == month && sameDay) {
             events.names.push_back(o.name);
-            events.holiday = events.holiday || o.holiday;
+            events.holiday = events.holiday || o.holidayIn(year);
         }
     }
 }
@@ -19,20 +23,26 @@ void collect(DayEvents& events, const std::vector<Occasion>& occasions, int mont
 }  // namespace
 
 OccasionCalendar::OccasionCalendar(int officialYear, std::vector<Occasion> official, std::vector<Occasion> solar,
-                                   std::vector<Occasion> lunar)
-    : officialYear_(officialYear), official_(std::move(official)), solar_(std::move(solar)), lunar_(std::move(lunar))
+                                   std::vector<Occasion> lunar, HijriCalendar hijri)
+    : officialYear_(officialYear), official_(std::move(official)), solar_(std::move(solar)), lunar_(std::move(lunar)),
+      hijri_(std::move(hijri))
 {
 }
 
 DayEvents OccasionCalendar::on(const CalendarDay& day) const
 {
     DayEvents events;
-    if (day.persianYear == officialYear_) {
-        collect(events, official_, day.persianMonth, day.persianDay, 0);
+    const int year = day.persianYear;
+    if (year == officialYear_) {
+        collect(events, official_, year, day.persianMonth, day.persianDay, 0);
         return events;
     }
-    collect(events, solar_, day.persianMonth, day.persianDay, 0);
-    collect(events, lunar_, day.hijriMonth, day.hijriDay, day.hijriMonthLength);
+    collect(events, solar_, year, day.persianMonth, day.persianDay, 0);
+    const HijriDate hijri = hijri_.on(day.julianDayNumber);
+    collect(events, lunar_, year, hijri.month, hijri.day, hijri.monthLength);
+    // The last Friday of Ramadan.
+    if (hijri.month == ramadan && weekday(day.julianDayNumber) == friday && hijri.day + 7 > hijri.monthLength)
+        events.names.emplace_back(qudsDay);
     return events;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/icons/DayCalendar.h"
+#include "tools/icons/HijriCalendar.h"
 #include "tools/icons/SourceTables.h"
 
 #include <string>
@@ -14,11 +15,11 @@ struct DayEvents {
 };
 
 // The occasions of a day: the official list for the year it has one, otherwise the fixed
-// solar occasions and the lunar ones by the Hijri date.
+// solar occasions, the lunar ones by the official Hijri months, and the Quds day.
 class OccasionCalendar {
 public:
     OccasionCalendar(int officialYear, std::vector<Occasion> official, std::vector<Occasion> solar,
-                     std::vector<Occasion> lunar);
+                     std::vector<Occasion> lunar, HijriCalendar hijri);
     DayEvents on(const CalendarDay& day) const;
 
 private:
@@ -26,6 +27,7 @@ private:
     std::vector<Occasion> official_;
     std::vector<Occasion> solar_;
     std::vector<Occasion> lunar_;
+    HijriCalendar hijri_;
 };
 
 }  // namespace kavenda::icons

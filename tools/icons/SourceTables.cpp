@@ -1,5 +1,8 @@
 #include "tools/icons/SourceTables.h"
 
+#include "tools/icons/DayCalendar.h"
+
+#include <cstdio>
 #include <fstream>
 #include <sstream>
 #include <stdexcept>
@@ -41,8 +44,21 @@ std::vector<Occasion> readOccasions(const std::filesystem::path& file, std::size
 {
     std::vector<Occasion> occasions;
     for (const auto& f : readTable(file, 4 + skippedColumns))
-        occasions.push_back({std::stoi(f[0]), std::stoi(f[1]), f[2 + skippedColumns] == "1", f[3 + skippedColumns]});
+        occasions.push_back({std::stoi(f[0]), std::stoi(f[1]), std::stoi(f[2 + skippedColumns]), f[3 + skippedColumns]});
     return occasions;
+}
+
+std::vector<HijriMonthStart> readHijriMonthStarts(const std::filesystem::path& file)
+{
+    std::vector<HijriMonthStart> months;
+    for (const auto& f : readTable(file, 5)) {
+        int year = 0, month = 0, day = 0;
+        char rest = 0;
+        if (std::sscanf(f[2].c_str(), "%4d-%2d-%2d%c", &year, &month, &day, &rest) != 3)
+            throw std::runtime_error(file.string() + ": not a date: " + f[2]);
+        months.push_back({std::stoi(f[0]), std::stoi(f[1]), julianDayNumber(year, month, day)});
+    }
+    return months;
 }
 
 }  // namespace kavenda::icons

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "tools/icons/HijriCalendar.h"
+
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -23,11 +25,17 @@ std::vector<Province> readProvinces(const std::filesystem::path& file);
 struct Occasion {
     int month;
     int day;
-    bool holiday;
+    int holidaySince;  // the first solar year in which the day is a public holiday; 0: never
     std::string name;
+
+    bool holidayIn(int persianYear) const { return holidaySince != 0 && persianYear >= holidaySince; }
 };
 
-// Columns: month, day, [skipped columns,] holiday, name.
+// Columns: month, day, [skipped columns,] holiday, name. The holiday column is 0, 1 (a holiday
+// in every year) or the solar year from which the day is a holiday.
 std::vector<Occasion> readOccasions(const std::filesystem::path& file, std::size_t skippedColumns = 0);
+
+// Columns: Hijri year, Hijri month, Gregorian first day (YYYY-MM-DD), Persian first day, kind.
+std::vector<HijriMonthStart> readHijriMonthStarts(const std::filesystem::path& file);
 
 }  // namespace kavenda::icons

@@ -79,6 +79,13 @@ private:
     sqlite3* db_ = nullptr;
 };
 
+// The Julian day number of the last day that has occasions: 29 or 30 Esfand of the last year.
+long lastDay()
+{
+    icons::DayCalendar calendar(lastYear + 1);
+    return calendar.current().julianDayNumber - 1;
+}
+
 std::string readText(const fs::path& file)
 {
     std::ifstream in(file);
@@ -162,9 +169,10 @@ int main(int argc, char** argv)
     try {
         fs::remove(partial);
         const auto provinces = icons::readProvinces(sources / "places.tsv");
+        icons::HijriCalendar hijri(icons::readHijriMonthStarts(sources / "hijri-month-starts.tsv"), lastDay());
         const icons::OccasionCalendar occasions(firstYear, icons::readOccasions(sources / "occasions-1392.tsv", 1),
                                                 icons::readOccasions(sources / "solar-occasions.tsv"),
-                                                icons::readOccasions(sources / "lunar-occasions.tsv"));
+                                                icons::readOccasions(sources / "lunar-occasions.tsv"), std::move(hijri));
         {
             Database db(partial);
             db.exec(readText(argv[2]));
