@@ -60,7 +60,8 @@ layout)
     resources=$(files_under "$KAVENDA_RESOURCE_DIR" | grep -vE '^CMakeFiles/|\.cmake$|^Makefile$' || true)
     [[ -n $resources ]] || fail "the build made no resources"
     while read -r name; do
-        cmp -s "$KAVENDA_RESOURCE_DIR/$name" "$prefix/share/kavenda/$name" || fail "resource $name not installed as built"
+        cmp -s "$KAVENDA_RESOURCE_DIR/$name" "$prefix/share/kavenda/$name" \
+            || fail "resource $name not installed as built"
     done <<<"$resources"
     [[ $(files_under "$prefix/share/kavenda") == "$resources" ]] \
         || fail "share/kavenda holds other files than the build's resources"
