@@ -102,6 +102,8 @@ int main(int argc, char** argv)
 
     usePersianFont();
     QApplication::setApplicationDisplayName(QStringLiteral("Kavenda"));
+    // Wayland docks match the window to the menu entry by this name.
+    QApplication::setDesktopFileName(QStringLiteral(KAVENDA_APP_ID));
     QApplication::setWindowIcon(QIcon(QString::fromStdString((paths.resourceFolder() / "kavenda.png").string())));
 
     DesktopNotifier notifier(audio, paths);

@@ -11,20 +11,22 @@ namespace {
 
 std::filesystem::path fromQt(const QString& path) { return std::filesystem::path(path.toStdString()); }
 
-std::filesystem::path findResources() {
-    const std::filesystem::path exe = fromQt(QCoreApplication::applicationDirPath());
-    const std::filesystem::path buildTree = exe.parent_path() / "resources";
-    std::error_code error;
-    if (std::filesystem::is_directory(buildTree, error))
-        return buildTree;
-    return exe.parent_path() / "share" / "kavenda";
-}
-
 }  // namespace
+
+std::filesystem::path DesktopPaths::findResources(const std::filesystem::path& programFolder,
+                                                  const std::filesystem::path& installedRelative)
+{
+    const std::filesystem::path installed = (programFolder / installedRelative).lexically_normal();
+    const std::filesystem::path buildTree = programFolder.parent_path() / "resources";
+    std::error_code error;
+    if (!std::filesystem::is_directory(installed, error) && std::filesystem::is_directory(buildTree, error))
+        return buildTree;
+    return installed;
+}
 
 DesktopPaths::DesktopPaths(std::optional<std::filesystem::path> dataDir)
     : documents_(dataDir ? *dataDir : fromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))),
-      resources_(findResources()) {
+      resources_(findResources(fromQt(QCoreApplication::applicationDirPath()), KAVENDA_INSTALLED_RESOURCES)) {
     std::error_code error;
     std::filesystem::create_directories(documents_, error);
 }

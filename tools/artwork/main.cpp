@@ -1,17 +1,27 @@
-// make_artwork <folder>: draws the images of the program into the folder. Runs without a
-// display (QT_QPA_PLATFORM=offscreen).
+// make_artwork <folder>: draws the images of the program into the folder.
+// make_artwork --icon <size> <file>: draws the application icon at one size, for the icon theme.
+// Runs without a display (QT_QPA_PLATFORM=offscreen).
 
 #include "tools/artwork/Artwork.h"
 
 #include <QDir>
 #include <QGuiApplication>
 
+#include <cstdlib>
 #include <iostream>
+#include <string_view>
 
 int main(int argc, char** argv) {
     QGuiApplication application(argc, argv);
+    if (argc == 4 && std::string_view(argv[1]) == "--icon") {
+        const int size = std::atoi(argv[2]);
+        if (size > 0 && kavenda::artwork::appIcon(size).save(QString::fromLocal8Bit(argv[3])))
+            return 0;
+        std::cerr << "make_artwork: cannot write " << argv[3] << '\n';
+        return 1;
+    }
     if (argc != 2) {
-        std::cerr << "usage: make_artwork <folder>\n";
+        std::cerr << "usage: make_artwork <folder> | make_artwork --icon <size> <file>\n";
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
