@@ -94,7 +94,7 @@ MonthGrid::Switch MonthGrid::switchMonth(int year, int m)
     return {true, Slot::middle, false};
 }
 
-MonthPage& MonthGrid::buildPage(int year, int m)
+void MonthGrid::buildPage(int year, int m)
 {
     datasource_ = db_.Execute(monthStatement(year, m));
     MonthPage page;
@@ -133,7 +133,6 @@ MonthPage& MonthGrid::buildPage(int year, int m)
         page.cells.push_back(std::move(cell));
     }
     pages_.push_back(std::move(page));
-    return pages_.back();
 }
 
 void MonthGrid::scrollViewDidEndScrollingAnimation()

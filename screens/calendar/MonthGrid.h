@@ -113,7 +113,7 @@ public:
     std::optional<ButtonRef> todayBtn() const { return todayBtn_; }
 
 private:
-    MonthPage& buildPage(int year, int m);
+    void buildPage(int year, int m);
     void setSelected(std::optional<ButtonRef> button, bool selected);
     std::string description(int day) const;
     std::vector<std::string> occasionsOfSelection() const;

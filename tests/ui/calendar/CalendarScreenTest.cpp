@@ -12,6 +12,7 @@
 #include "tests/ui/main/MainScreenFixture.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QLabel>
 #include <QListWidget>
 #include <QtTest>
@@ -113,6 +114,10 @@ private slots:
         QCOMPARE(buttons.at(14)->titleColour(), QColor(Qt::black));
         // Opened on today, 20 Farvardin: selected, its occasion listed.
         QCOMPARE(c.checkedDays(calendar), QList<int>{20});
+        QAccessibleInterface* selected = QAccessible::queryAccessibleInterface(buttons.at(20));
+        QVERIFY(selected->state().checked);
+        QVERIFY(!QAccessible::queryAccessibleInterface(buttons.at(19))->state().checked);
+        QCOMPARE(QAccessible::queryAccessibleInterface(calendar.monthLbl())->text(QAccessible::Name), QStringLiteral("فروردین"));
         QCOMPARE(c.rows(calendar), QStringList{QStringLiteral("روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی")});
         for (const char* name : {"previousButton", "nextButton", "todayButton", "detailsButton"})
             QVERIFY(calendar.findChild<QAbstractButton*>(QLatin1String(name))->isVisible());
