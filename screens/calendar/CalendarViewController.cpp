@@ -46,7 +46,8 @@ CalendarViewController::CalendarViewController(const DateTimePersian& date, cons
 
     content_ = new QWidget(ui_->scrl);
     content_->setGeometry(0, 0, MonthGrid::pageWidth, 3 * MonthGrid::pageHeight);
-    for (QAbstractButton* step : {static_cast<QAbstractButton*>(ui_->previousButton), static_cast<QAbstractButton*>(ui_->nextButton)})
+    const QList<QAbstractButton*> steps{ui_->previousButton, ui_->nextButton};
+    for (QAbstractButton* step : steps)
         connect(step, &QAbstractButton::clicked, this, [this, step] { changeMonth(step->property("tag").toInt()); });
     connect(ui_->todayButton, &QPushButton::clicked, this, &CalendarViewController::showToday);
     connect(ui_->detailsButton, &QPushButton::clicked, this, &CalendarViewController::showDetails);

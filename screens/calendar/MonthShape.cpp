@@ -29,7 +29,8 @@ MonthShape MonthShape::of(const PersianCalendar& calendar, int year, int month)
     shape.month = month;
     // Noon keeps the civil day clear of any shift at midnight.
     const CivilTime civil = calendar.gregorianFields(calendar.instantOf(year, month + 1, 1, 12, 0));
-    const std::chrono::year_month_day first{std::chrono::year{civil.year}, std::chrono::month{static_cast<unsigned>(civil.month)},
+    const std::chrono::year_month_day first{std::chrono::year{civil.year},
+                                            std::chrono::month{static_cast<unsigned>(civil.month)},
                                             std::chrono::day{static_cast<unsigned>(civil.day)}};
     shape.firstColumn = columnOfWeekday(std::chrono::weekday{std::chrono::sys_days{first}});
     if (month < 6)

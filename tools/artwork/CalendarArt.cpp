@@ -57,7 +57,8 @@ QImage calendarBackground()
     painter.fillRect(image.rect(), paper);
     for (int row = 0; row < 5; ++row)
         for (int column = 0; column < 7; ++column) {
-            const QRectF frame(firstCellX - cellStepX * column + 1.5, cellStepY * row + 2.5, cellWidth - 3, cellHeight - 3);
+            const QRectF frame(firstCellX - cellStepX * column + 1.5, cellStepY * row + 2.5, cellWidth - 3,
+                               cellHeight - 3);
             // Fridays stand on a warmer ground.
             painter.setBrush(column == 6 ? QColor(0xf6, 0xe3, 0xdc) : QColor(0xfb, 0xfa, 0xf6));
             painter.setPen(QPen(QColor(0xc9, 0xc2, 0xb0), 1.0));
