@@ -1,4 +1,5 @@
 #include "app/AppDelegate.h"
+#include "app/MonthCommand.h"
 #include "app/PersianFont.h"
 #include "app/ReminderList.h"
 #include "data/MyDB.h"
@@ -39,8 +40,8 @@ bool needsWindow(int argc, char** argv)
 {
     for (int i = 1; i < argc; ++i) {
         const QByteArray argument(argv[i]);
-        if (argument == "--reminders" || argument == "--help" || argument == "-h" || argument == "--help-all"
-            || argument == "--version" || argument == "-v")
+        if (argument == "--reminders" || argument == "--month" || argument == "--help" || argument == "-h"
+            || argument == "--help-all" || argument == "--version" || argument == "-v")
             return false;
     }
     return true;
@@ -65,7 +66,9 @@ int main(int argc, char** argv)
     const QCommandLineOption dataDir(QStringLiteral("data-dir"), QStringLiteral("The folder of the working database (default: the XDG data folder)."), QStringLiteral("folder"));
     const QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Start, let the first screen settle, write a PNG of the window to the file and exit."), QStringLiteral("file"));
     const QCommandLineOption reminders(QStringLiteral("reminders"), QStringLiteral("Rebuild the reminders as a start does, print the pending ones in fire order and exit."));
-    parser.addOptions({now, tall, dataDir, screenshot, reminders});
+    const QCommandLineOption month(QStringLiteral("month"), QStringLiteral("Print a Persian month with its holidays and occasions (this month unless YYYY-MM is given) and exit."));
+    parser.addOptions({now, tall, dataDir, screenshot, reminders, month});
+    parser.addPositionalArgument(QStringLiteral("YYYY-MM"), QStringLiteral("With --month: the Persian year and month, such as 1392-01."), QStringLiteral("[YYYY-MM]"));
     parser.process(*app);
 
     SystemClock systemClock;
@@ -99,6 +102,8 @@ int main(int argc, char** argv)
         std::fputs(reminderList(notifications.pending(), calendar).c_str(), stdout);
         return 0;
     }
+    if (parser.isSet(month))
+        return printMonth(parser.positionalArguments().value(0).toStdString(), *clock, calendar);
 
     usePersianFont();
     QApplication::setApplicationDisplayName(QStringLiteral("Kavenda"));

@@ -46,7 +46,8 @@ inline constexpr std::string_view reminderTimes =
 inline constexpr std::string_view comingOccasions =
     "SELECT Date, Description FROM tEvents WHERE Date >= '%@' AND Description IS NOT NULL ORDER BY Date LIMIT 5";
 inline constexpr std::string_view monthEvents = "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '%@__'";
-inline constexpr std::string_view monthPattern = "92%02i";
+// The key prefix of a month: (year mod 1300) and the two-digit month, "9201" for Farvardin 1392.
+inline constexpr std::string_view monthPattern = "%d%02i";
 
 // Settings.
 inline constexpr std::string_view allSettings = "SELECT * FROM tSetting";

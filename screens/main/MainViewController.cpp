@@ -5,6 +5,7 @@
 #include "platform/qt/PageIndicator.h"
 #include "platform/qt/Pager.h"
 #include "platform/qt/PresentationStack.h"
+#include "screens/calendar/CalendarViewController.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/OptionsViewController.h"
 #include "screens/main/CustomUIImageView.h"
@@ -84,10 +85,10 @@ void MainViewController::viewDidLoad()
     options->setGeometry(290, 430 + shift, 18, 19);
     connect(options, &QAbstractButton::clicked, this, &MainViewController::showSelector);
 
-    // The month calendar is a screen of its own still to come; the button holds its place.
     QAbstractButton* calendar = calendarButton(services_.paths.resourceFolder(), this);
     calendar->setObjectName(QStringLiteral("calendarButton"));
     calendar->setGeometry(15, 425 + shift, 34, 32);
+    connect(calendar, &QAbstractButton::clicked, this, &MainViewController::showCalendar);
 
     if (!datasource().empty())
         Bind();
@@ -158,6 +159,14 @@ void MainViewController::closeForm()
     updateDataSource();
     Bind();
     presentation_.dismiss(true);
+}
+
+void MainViewController::showCalendar()
+{
+    auto* calendar = new CalendarViewController(
+        *localDtp_, {services_.db, services_.clock, services_.calendar, services_.paths.resourceFolder()});
+    calendar->setDelegate(this);
+    presentation_.present(calendar, true);
 }
 
 void MainViewController::closeCalendar(const DateTimePersian& date, QWidget* calendar)

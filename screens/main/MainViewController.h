@@ -1,6 +1,7 @@
 #pragma once
 
 #include "calendar/DateTimePersian.h"
+#include "screens/calendar/CalendarViewControllerDelegate.h"
 #include "screens/cities/SelectionControllerDelegate.h"
 #include "screens/main/CityPages.h"
 
@@ -24,7 +25,7 @@ class Screen;
 
 // The root screen: one day page per chosen city in a pager, the last city of the user's list
 // on the left, opening on the first city; buttons for the options and the month calendar.
-class MainViewController : public QWidget, public SelectionControllerDelegate {
+class MainViewController : public QWidget, public SelectionControllerDelegate, public CalendarViewControllerDelegate {
     Q_OBJECT
 
 public:
@@ -47,8 +48,10 @@ public:
     void Bind();
     void showSelector();
     void closeForm() override;
+    // Presents the month calendar on the date shown.
+    void showCalendar();
     // The month calendar hands back the day to show until the next refresh, and is dismissed.
-    void closeCalendar(const DateTimePersian& date, QWidget* calendar);
+    void closeCalendar(const DateTimePersian& date, QWidget* calendar) override;
     void pageAction();
     void scrollViewDidScroll(double offset);
 

@@ -17,6 +17,11 @@ QImage mainView();
 QImage calendarButton();
 // The application icon.
 QImage appIcon(int size);
+// The month calendar's page, 320 x 221, and the backgrounds of its day buttons, 45 x 43.
+QImage calendarBackground();
+QImage dayHasEvent();
+QImage daySelected(bool withEvent);
+QImage dayToday();
 
 // The first installed Persian face, else DejaVu Sans.
 QFont persianFont(int pixelSize, bool bold = false);

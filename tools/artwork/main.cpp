@@ -29,6 +29,11 @@ int main(int argc, char** argv) {
         {"MainView.png", kavenda::artwork::mainView()},
         {"calendarBtn.png", kavenda::artwork::calendarButton()},
         {"kavenda.png", kavenda::artwork::appIcon(256)},
+        {"calendarBG.png", kavenda::artwork::calendarBackground()},
+        {"hasEvent.png", kavenda::artwork::dayHasEvent()},
+        {"selectedWithEvent.png", kavenda::artwork::daySelected(true)},
+        {"selected.png", kavenda::artwork::daySelected(false)},
+        {"today.png", kavenda::artwork::dayToday()},
     };
     for (const auto& [name, image] : images) {
         if (!image.save(folder.filePath(QString::fromLatin1(name)))) {

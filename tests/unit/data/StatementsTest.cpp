@@ -90,7 +90,7 @@ TEST_F(StatementsTest, OccasionsMonthsAndSettings)
     EXPECT_EQ(coming[0].at("Date"), "920302");
     EXPECT_EQ(coming[4].at("Date"), "930101");
 
-    const RowSet month = db().Execute(formatSql(sql::monthEvents, {format(sql::monthPattern, {2})}));
+    const RowSet month = db().Execute(formatSql(sql::monthEvents, {format(sql::monthPattern, {92, 2})}));
     ASSERT_EQ(month.size(), 3u);
     EXPECT_EQ(month[2].at("Description"), "");
 

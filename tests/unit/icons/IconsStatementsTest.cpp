@@ -30,7 +30,7 @@ TEST_F(IconsStatements, DayQueryGivesOneRowWithEightTimes)
 
 TEST_F(IconsStatements, MonthQueriesGiveEveryDayInOrder)
 {
-    const RowSet farvardin = db.Execute(formatSql(sql::monthEvents, {format(sql::monthPattern, {1})}));
+    const RowSet farvardin = db.Execute(formatSql(sql::monthEvents, {format(sql::monthPattern, {92, 1})}));
     ASSERT_EQ(farvardin.size(), 31u);
     EXPECT_EQ(farvardin[0].at("Description"), "آغاز نوروز");
     EXPECT_EQ(farvardin[12].at("Description"), "روز طبیعت");
@@ -38,7 +38,7 @@ TEST_F(IconsStatements, MonthQueriesGiveEveryDayInOrder)
     EXPECT_EQ(farvardin[4].at("Description"), "");
     EXPECT_EQ(farvardin[24].at("Description"), "شهادت حضرت فاطمه زهرا (س)@روز بزرگداشت عطار نیشابوری");
 
-    const RowSet esfand = db.Execute(formatSql(sql::monthEvents, {format(sql::monthPattern, {12})}));
+    const RowSet esfand = db.Execute(formatSql(sql::monthEvents, {format(sql::monthPattern, {92, 12})}));
     ASSERT_EQ(esfand.size(), 29u);
     EXPECT_EQ(esfand[28].at("Description"), "روز ملی شدن صنعت نفت ایران");
     EXPECT_EQ(esfand[28].at("IsHoliday"), "1");

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <string_view>
+
+namespace kavenda {
+
+class Clock;
+class PersianCalendar;
+
+// kavenda --month [YYYY-MM]: prints the Persian month (this month when none is given) from the
+// shared database, coloured when stdout is a terminal. Returns the exit status.
+int printMonth(std::string_view argument, const Clock& clock, const PersianCalendar& calendar);
+
+}  // namespace kavenda

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "screens/calendar/MonthGrid.h"
+
+#include <QPointer>
+#include <QWidget>
+
+#include <filesystem>
+#include <map>
+#include <memory>
+
+class QLabel;
+class QListWidget;
+class QVariantAnimation;
+
+namespace Ui {
+class CalendarViewController;
+}
+
+namespace kavenda {
+
+class CalendarViewControllerDelegate;
+class Clock;
+class DayButton;
+class MyDB;
+class PersianCalendar;
+
+// The month calendar: one month as a grid of day buttons over a table of the selected day's
+// occasions; steps a month with a vertical slide, jumps to today, and hands a day back.
+class CalendarViewController : public QWidget {
+    Q_OBJECT
+
+public:
+    struct Services {
+        MyDB& db;
+        const Clock& clock;
+        const PersianCalendar& calendar;
+        std::filesystem::path resourceFolder;
+    };
+
+    // Opens on the date's month with its day selected.
+    CalendarViewController(const DateTimePersian& date, const Services& services, QWidget* parent = nullptr);
+    ~CalendarViewController() override;
+
+    void setDelegate(CalendarViewControllerDelegate* delegate) { delegate_ = delegate; }
+    CalendarViewControllerDelegate* delegate() const { return delegate_; }
+
+    void changeMonth(int step);
+    void showEvents(int page, DayButton* button);
+    void showToday();
+    void showDetails();
+    void scrollViewDidEndScrollingAnimation();
+
+    const MonthGrid& grid() const { return grid_; }
+    bool canChange() const { return grid_.canChange(); }
+    QWidget* scrl() const;
+    QLabel* monthLbl() const;
+    QListWidget* tblEvents() const;
+    // The day buttons of the page on show, by day.
+    std::map<int, DayButton*> dayButtons() const;
+
+private:
+    void apply(const MonthGrid::Switch& done);
+    QWidget* makePage(const MonthPage& page);
+    void showSelection();
+    void reloadData();
+    void setOffset(int y);
+
+    std::unique_ptr<Ui::CalendarViewController> ui_;
+    std::filesystem::path resourceFolder_;
+    MonthGrid grid_;
+    QWidget* content_ = nullptr;
+    std::map<int, QWidget*> pageViews_;
+    QPointer<QVariantAnimation> slide_;
+    CalendarViewControllerDelegate* delegate_ = nullptr;
+};
+
+}  // namespace kavenda

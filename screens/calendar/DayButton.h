@@ -1,0 +1,37 @@
+#pragma once
+
+#include "screens/calendar/MonthGrid.h"
+
+#include <QAbstractButton>
+#include <QPixmap>
+
+#include <filesystem>
+
+namespace kavenda {
+
+// A day of a month page: its number in Persian digits over the background of its state.
+// Selection is the checked state, set only by the calendar, never by a click itself.
+class DayButton : public QAbstractButton {
+    Q_OBJECT
+
+public:
+    DayButton(const DayCell& cell, const std::filesystem::path& resourceFolder, QWidget* parent);
+
+    int tag() const { return tag_; }
+    // The title colour of the state the button is in.
+    QColor titleColour() const;
+    QSize sizeHint() const override;
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void nextCheckState() override;
+
+private:
+    int tag_;
+    QColor normalTitle_;
+    QColor selectedTitle_;
+    QPixmap normalBackground_;
+    QPixmap selectedBackground_;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,107 @@
+#include "screens/calendar/TerminalMonth.h"
+
+#include "calendar/DateTimePersian.h"
+#include "calendar/Utility.h"
+#include "data/Format.h"
+#include "data/MyDB.h"
+#include "screens/calendar/MonthGrid.h"
+#include "screens/calendar/MonthShape.h"
+
+#include <algorithm>
+#include <cctype>
+
+namespace kavenda {
+
+namespace {
+
+constexpr std::string_view weekdayInitials = "ش ی د س چ پ ج";
+constexpr std::string_view holidayColour = "\x1b[31m";
+constexpr std::string_view plainColour = "\x1b[0m";
+constexpr int friday = 6;
+
+bool allDigits(std::string_view text)
+{
+    return !text.empty()
+        && std::all_of(text.begin(), text.end(), [](char c) { return std::isdigit(static_cast<unsigned char>(c)); });
+}
+
+std::string painted(const std::string& text, bool paint)
+{
+    return paint ? std::string(holidayColour) + text + std::string(plainColour) : text;
+}
+
+std::string persianNumber(int value)
+{
+    return Utility::ConvertToPersian(format("%d", {value}));
+}
+
+// Right-aligned in two places.
+std::string persianDayCell(int day)
+{
+    return (day < 10 ? " " : "") + persianNumber(day);
+}
+
+std::string withoutTrailingBlanks(std::string line)
+{
+    line.erase(line.find_last_not_of(' ') + 1);
+    return line;
+}
+
+}  // namespace
+
+TerminalMonth::TerminalMonth(MyDB& db, const PersianCalendar& calendar) : db_(db), calendar_(calendar) {}
+
+std::optional<TerminalMonth::YearMonth> TerminalMonth::parse(std::string_view text)
+{
+    const std::size_t dash = text.find('-');
+    if (dash == std::string_view::npos)
+        return std::nullopt;
+    const std::string_view year = text.substr(0, dash);
+    const std::string_view month = text.substr(dash + 1);
+    if (year.size() != 4 || !allDigits(year) || month.size() > 2 || !allDigits(month))
+        return std::nullopt;
+    const YearMonth parsed{std::stoi(std::string(year)), std::stoi(std::string(month))};
+    if (parsed.month < 1 || parsed.month > 12)
+        return std::nullopt;
+    return parsed;
+}
+
+std::optional<std::string> TerminalMonth::print(YearMonth month, bool colour) const
+{
+    const RowSet rows = db_.Execute(MonthGrid::monthStatement(month.year, month.month - 1));
+    if (rows.empty())
+        return std::nullopt;
+    const MonthShape shape = MonthShape::of(calendar_, month.year, month.month - 1);
+    const auto value = [&rows](int day, const char* column) {
+        return MyDB::getValue(rows, static_cast<std::size_t>(day - 1), column).value_or("");
+    };
+
+    std::string out = DateTimePersian::getMonthName(month.month - 1) + ' ' + persianNumber(month.year) + '\n';
+    out += std::string(weekdayInitials) + '\n';
+    std::string week(static_cast<std::size_t>(3 * shape.firstColumn), ' ');
+    for (int day = 1; day <= shape.length; ++day) {
+        const int column = (shape.firstColumn + day - 1) % 7;
+        const bool holiday = column == friday || value(day, "IsHoliday") == "1";
+        week += ' ' + painted(persianDayCell(day), colour && holiday);
+        if (column == friday || day == shape.length) {
+            out += withoutTrailingBlanks(week) + '\n';
+            week.clear();
+        }
+    }
+
+    out += '\n';
+    for (int day = 1; day <= shape.length; ++day) {
+        const std::string description = value(day, "Description");
+        if (description.empty())
+            continue;
+        const bool holiday = value(day, "IsHoliday") == "1";
+        std::string line = painted(persianNumber(day) + (holiday ? "*" : ""), colour && holiday) + ' ';
+        const std::vector<std::string> occasions = MonthGrid::occasions(description);
+        for (std::size_t i = 0; i < occasions.size(); ++i)
+            line += (i == 0 ? "" : " - ") + occasions[i];
+        out += line + '\n';
+    }
+    return out;
+}
+
+}  // namespace kavenda

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace kavenda {
+
+class MyDB;
+class PersianCalendar;
+
+// A month for the terminal, laid out as cal lays one out, with the official holidays and the
+// occasions under it: the name and the year, the weekday initials from Saturday, one line a
+// week, then one line for every day that has occasions. Numbers in Persian digits.
+class TerminalMonth {
+public:
+    struct YearMonth {
+        int year = 0;
+        int month = 0;  // 1 to 12
+        bool operator==(const YearMonth&) const = default;
+    };
+
+    TerminalMonth(MyDB& db, const PersianCalendar& calendar);
+
+    // "YYYY-MM" as a Persian year and month; none when it is not one.
+    static std::optional<YearMonth> parse(std::string_view text);
+    // The printout; colour marks holidays and Fridays for a terminal. None when the data
+    // holds no day of that month.
+    std::optional<std::string> print(YearMonth month, bool colour) const;
+
+private:
+    MyDB& db_;
+    const PersianCalendar& calendar_;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,346 @@
+// The month grid on the generated database, whose 1392 is the official calendar of that year.
+#include "screens/calendar/MonthGrid.h"
+
+#include "calendar/DateTimePersian.h"
+#include "data/Format.h"
+#include "platform/IcuPersianCalendar.h"
+#include "tests/support/TehranTime.h"
+#include "tests/unit/icons/ShippedIcons.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <tuple>
+
+namespace kavenda {
+namespace {
+
+constexpr Rgb holiday = MonthGrid::holidayColour;
+
+class MonthGridTest : public test::ShippedIcons {
+protected:
+    // Opened on a date key, with the clock on the civil date of "now".
+    MonthGrid open(std::string_view key, Instant now = test::tehran(2013, 7, 1, 12))
+    {
+        MonthGrid grid(db, calendar, DateTimePersian::initWithPersianDate(key, calendar), DateTimePersian::init(now, calendar));
+        grid.viewDidLoad();
+        return grid;
+    }
+
+    static const MonthPage& shown(const MonthGrid& grid) { return grid.pages().front(); }
+
+    static const DayCell& cell(const MonthGrid& grid, int day)
+    {
+        const DayCell* found = shown(grid).cell(day);
+        EXPECT_NE(found, nullptr) << "no button for day " << day;
+        static const DayCell none;
+        return found ? *found : none;
+    }
+
+    static std::vector<int> selectedDays(const MonthPage& page)
+    {
+        std::vector<int> days;
+        for (const DayCell& c : page.cells)
+            if (c.selected)
+                days.push_back(c.place.day);
+        return days;
+    }
+
+    IcuPersianCalendar calendar;
+};
+
+TEST_F(MonthGridTest, PlacesTheDaysOf1392AsItsPagesShowThem)
+{
+    struct Case {
+        const char* key;
+        int day;
+        int row;
+        int column;
+    };
+    const Case cases[] = {
+        {"920101", 1, 0, 5},  {"920101", 2, 0, 6},  {"920101", 31, 0, 0}, {"920101", 24, 4, 0},
+        {"920101", 30, 4, 6}, {"920401", 1, 0, 0},  {"920401", 29, 4, 0}, {"920401", 31, 4, 2},
+        {"920601", 1, 0, 6},  {"920601", 30, 0, 0}, {"920601", 31, 0, 1}, {"920601", 29, 4, 6},
+        {"920901", 1, 0, 6},  {"920901", 30, 0, 0}, {"921201", 1, 0, 5},  {"921201", 29, 4, 5},
+    };
+    for (const Case& c : cases) {
+        const MonthGrid grid = open(c.key);
+        const DayCell& found = cell(grid, c.day);
+        EXPECT_EQ(found.place, (GridPlace{c.row, c.column, c.day})) << c.key << " day " << c.day;
+        EXPECT_EQ(found.x(), 276 - 46 * c.column);
+        EXPECT_EQ(found.y(), 44 * c.row + 1);
+    }
+    EXPECT_EQ(shown(open("921201")).cell(30), nullptr);
+    EXPECT_EQ(shown(open("920401")).cells.size(), 31u);
+}
+
+TEST_F(MonthGridTest, EveryMonthOf1392StartsOnItsWeekdayAndShowsEachDayOnce)
+{
+    // Saturday is column 0: Thursday, Sunday, Wednesday, Saturday, Tuesday, Friday, Monday,
+    // Wednesday, Friday, Sunday, Tuesday, Thursday.
+    const int firstColumns[12] = {5, 1, 4, 0, 3, 6, 2, 4, 6, 1, 3, 5};
+    const int lengths[12] = {31, 31, 31, 31, 31, 31, 30, 30, 30, 30, 30, 29};
+    for (int m = 0; m < 12; ++m) {
+        const MonthGrid grid = open(format("92%02d01", {m + 1}));
+        const MonthPage& page = shown(grid);
+        ASSERT_EQ(page.cells.size(), static_cast<std::size_t>(lengths[m])) << "month " << m;
+        EXPECT_EQ(page.cell(1)->place.column, firstColumns[m]) << "month " << m;
+        std::map<std::pair<int, int>, int> used;
+        for (const DayCell& c : page.cells) {
+            const std::pair<int, int> place{c.place.row, c.place.column};
+            EXPECT_EQ(++used[place], 1) << "month " << m << " day " << c.place.day;
+        }
+    }
+}
+
+TEST_F(MonthGridTest, ReadsItsMonthWithTheYearsPrefix)
+{
+    EXPECT_EQ(MonthGrid::monthStatement(1392, 0), "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '9201__'");
+    EXPECT_EQ(MonthGrid::monthStatement(1392, 11), "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '9212__'");
+    EXPECT_EQ(MonthGrid::monthStatement(1405, 6), "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '10507__'");
+    const MonthGrid grid = open("920701");
+    ASSERT_EQ(grid.datasource().size(), 30u);
+    EXPECT_EQ(grid.monthName(), "مهر");
+}
+
+TEST_F(MonthGridTest, ColoursFridaysAndHolidaysAndMarksOccasions)
+{
+    const MonthGrid grid = open("920120", test::tehran(2013, 4, 9, 12));  // today 20 Farvardin
+    // 1 Farvardin: a holiday with an occasion.
+    EXPECT_EQ(cell(grid, 1).normalTitle, holiday);
+    EXPECT_EQ(cell(grid, 1).selectedTitle, holiday);
+    EXPECT_EQ(cell(grid, 1).normalBackground, "hasEvent.png");
+    EXPECT_EQ(cell(grid, 1).selectedBackground, "selectedWithEvent.png");
+    // 9 Farvardin: a Friday the data does not call a holiday, with no occasion.
+    ASSERT_EQ(scalar("SELECT IsHoliday FROM tEvents WHERE Date = 920109"), "0");
+    EXPECT_EQ(cell(grid, 9).normalTitle, holiday);
+    EXPECT_EQ(cell(grid, 9).normalBackground, "");
+    EXPECT_EQ(cell(grid, 9).selectedBackground, "selected.png");
+    // 5 Farvardin: a plain day.
+    EXPECT_EQ(cell(grid, 5).normalTitle, MonthGrid::black);
+    EXPECT_EQ(cell(grid, 5).selectedTitle, MonthGrid::white);
+    // 20 Farvardin has an occasion, but today's look wins.
+    EXPECT_EQ(cell(grid, 20).description, "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
+    EXPECT_EQ(cell(grid, 20).normalBackground, "today.png");
+    EXPECT_EQ(cell(grid, 20).selectedBackground, "selected.png");
+    EXPECT_EQ(cell(grid, 20).normalTitle, MonthGrid::black);
+}
+
+TEST_F(MonthGridTest, MarksTheOpenedDayAndTodayAsTheyAreBuilt)
+{
+    struct Case {
+        const char* opened;
+        std::vector<int> selected;
+        int lastBtn;
+        std::optional<int> todayBtn;
+    };
+    // Today is 10 Tir 1392. The button built last of the two becomes the one to deselect.
+    const Case cases[] = {
+        {"920410", {10}, 10, 10},
+        {"920415", {15}, 15, 10},
+        {"920403", {3}, 10, 10},
+        {"920503", {3}, 3, std::nullopt},
+    };
+    for (const Case& c : cases) {
+        const MonthGrid grid = open(c.opened);
+        EXPECT_EQ(selectedDays(shown(grid)), c.selected) << c.opened;
+        ASSERT_TRUE(grid.lastBtn()) << c.opened;
+        EXPECT_EQ(grid.lastBtn()->day, c.lastBtn) << c.opened;
+        EXPECT_EQ(grid.todayBtn() ? std::optional<int>(grid.todayBtn()->day) : std::nullopt, c.todayBtn) << c.opened;
+        EXPECT_EQ(grid.today(), std::stoi(std::string(c.opened).substr(4)));
+    }
+}
+
+TEST_F(MonthGridTest, AStepSlidesToTheNextMonthWithNothingSelected)
+{
+    MonthGrid grid = open("920415");
+    const std::optional<MonthGrid::Switch> step = grid.changeMonth(+1);
+    ASSERT_TRUE(step);
+    EXPECT_TRUE(step->built);
+    EXPECT_EQ(step->slot, MonthGrid::Slot::bottom);
+    EXPECT_TRUE(step->animated);
+    EXPECT_FALSE(grid.canChange());
+    EXPECT_EQ(grid.pages().size(), 2u);
+    EXPECT_EQ(grid.month(), 4);
+    EXPECT_EQ(grid.today(), 0);
+    EXPECT_FALSE(grid.lastBtn());
+    EXPECT_EQ(grid.numberOfRows(), 1);
+    EXPECT_EQ(grid.cellText(0), MonthGrid::noOccasion);
+    EXPECT_EQ(grid.monthName(), "مرداد");
+
+    // While sliding, steps and today are refused.
+    EXPECT_FALSE(grid.changeMonth(+1));
+    EXPECT_FALSE(grid.showToday());
+    EXPECT_EQ(grid.month(), 4);
+
+    grid.scrollViewDidEndScrollingAnimation();
+    EXPECT_TRUE(grid.canChange());
+    ASSERT_EQ(grid.pages().size(), 1u);
+    EXPECT_EQ(grid.pages().front().month, 4);
+    EXPECT_TRUE(selectedDays(grid.pages().front()).empty());
+
+    const std::optional<MonthGrid::Switch> back = grid.changeMonth(-1);
+    ASSERT_TRUE(back);
+    EXPECT_EQ(back->slot, MonthGrid::Slot::top);
+    grid.scrollViewDidEndScrollingAnimation();
+    EXPECT_EQ(grid.month(), 3);
+    // Back in today's month: its button is built unselected, as no day was selected.
+    EXPECT_TRUE(selectedDays(grid.pages().front()).empty());
+    EXPECT_EQ(grid.todayBtn()->page, grid.pages().front().id);
+}
+
+TEST_F(MonthGridTest, StepsStopAtTheEndsOfTheYearAndKeepTheSelection)
+{
+    MonthGrid farvardin = open("920107");
+    EXPECT_FALSE(farvardin.changeMonth(-1));
+    EXPECT_EQ(farvardin.month(), 0);
+    EXPECT_EQ(farvardin.today(), 7);
+    EXPECT_EQ(selectedDays(shown(farvardin)), std::vector<int>{7});
+    EXPECT_TRUE(farvardin.canChange());
+
+    MonthGrid esfand = open("921220");
+    EXPECT_FALSE(esfand.changeMonth(+1));
+    EXPECT_EQ(esfand.month(), 11);
+    EXPECT_EQ(esfand.today(), 20);
+    EXPECT_EQ(esfand.pages().size(), 1u);
+}
+
+TEST_F(MonthGridTest, SteppingIntoTodaysMonthSelectsTodayWhenTheSameDayWasSelected)
+{
+    MonthGrid grid = open("920310");  // today is 10 Tir
+    grid.changeMonth(+1);
+    EXPECT_EQ(selectedDays(grid.pages().back()), std::vector<int>{10});
+    EXPECT_EQ(grid.today(), 0);
+    EXPECT_FALSE(grid.lastBtn());
+}
+
+TEST_F(MonthGridTest, ATapMovesTheSelectionAndListsTheDaysOccasions)
+{
+    ASSERT_TRUE(db.ExecuteNonQuery("UPDATE tEvents SET Description = 'یکم@دوم@سوم' WHERE Date = 920418"));
+    MonthGrid grid = open("920415");
+    const int page = shown(grid).id;
+    grid.showEvents({page, 18});
+    EXPECT_EQ(selectedDays(shown(grid)), std::vector<int>{18});
+    EXPECT_EQ(grid.today(), 18);
+    ASSERT_EQ(grid.numberOfRows(), 3);
+    EXPECT_EQ(grid.cellText(0), "یکم");
+    EXPECT_EQ(grid.cellText(1), "دوم");
+    EXPECT_EQ(grid.cellText(2), "سوم");
+
+    grid.showEvents({page, 16});
+    EXPECT_EQ(grid.numberOfRows(), 1);
+    EXPECT_EQ(grid.cellText(0), MonthGrid::noOccasion);
+    EXPECT_EQ(selectedDays(shown(grid)), std::vector<int>{16});
+}
+
+TEST_F(MonthGridTest, TodayReturnsToTodaysMonthOrReselectsItsButton)
+{
+    MonthGrid grid = open("920415");
+    grid.showEvents({shown(grid).id, 20});
+    const std::optional<MonthGrid::Switch> same = grid.showToday();
+    ASSERT_TRUE(same);
+    EXPECT_FALSE(same->built);
+    EXPECT_TRUE(grid.canChange());
+    EXPECT_EQ(selectedDays(shown(grid)), std::vector<int>{10});
+    EXPECT_EQ(grid.today(), 10);
+
+    grid.changeMonth(+1);
+    grid.scrollViewDidEndScrollingAnimation();
+    grid.changeMonth(+1);
+    grid.scrollViewDidEndScrollingAnimation();
+    const std::optional<MonthGrid::Switch> back = grid.showToday();
+    ASSERT_TRUE(back);
+    EXPECT_TRUE(back->built);
+    EXPECT_EQ(back->slot, MonthGrid::Slot::top);
+    grid.scrollViewDidEndScrollingAnimation();
+    EXPECT_EQ(grid.month(), 3);
+    EXPECT_EQ(grid.today(), 10);
+    EXPECT_EQ(selectedDays(shown(grid)), std::vector<int>{10});
+    EXPECT_EQ(grid.lastBtn(), grid.todayBtn());
+}
+
+TEST_F(MonthGridTest, DetailsHandOnTheSelectedDayOrToday)
+{
+    struct Case {
+        const char* opened;
+        Instant now;
+        int step;
+        std::optional<std::string> handedOn;
+    };
+    const Case cases[] = {
+        {"920705", test::tehran(2013, 7, 1, 12), 0, "920705"},
+        {"921229", test::tehran(2013, 7, 1, 12), 0, std::nullopt},
+        {"921228", test::tehran(2013, 7, 1, 12), 0, "921228"},
+        // No selection after a step: today's month and day.
+        {"920105", test::tehran(2013, 8, 11, 12), +1, "920520"},
+        // Today is 29 Esfand 1392 and nothing is selected: nothing is handed on.
+        {"921101", test::tehran(2014, 3, 20, 12), +1, std::nullopt},
+        // Later years hand their last day on like any other.
+        {"1081230", test::tehran(2029, 7, 1, 12), 0, "1081230"},
+        {"1051229", test::tehran(2026, 7, 1, 12), 0, "1051229"},
+    };
+    for (const Case& c : cases) {
+        MonthGrid grid = open(c.opened, c.now);
+        if (c.step != 0) {
+            grid.changeMonth(c.step);
+            grid.scrollViewDidEndScrollingAnimation();
+        }
+        const std::optional<DateTimePersian> date = grid.showDetails();
+        ASSERT_EQ(date.has_value(), c.handedOn.has_value()) << c.opened;
+        if (date) {
+            EXPECT_EQ(date->getPersianDate(), *c.handedOn) << c.opened;
+        }
+    }
+    EXPECT_EQ(open("920705").showDetails()->dayOfYear(), 191);
+}
+
+// Other years by the platform's calendar: 1 Farvardin 1405 is Saturday 21 March 2026, 1 Farvardin
+// 1408 Tuesday 20 March 2029; 1408 is a leap year, 1405 is not.
+TEST_F(MonthGridTest, LaterYearsFollowThePlatformsCalendar)
+{
+    struct Case {
+        int year;
+        CivilTime newYear;
+        int farvardinColumn;
+        int esfandLength;
+    };
+    const Case cases[] = {
+        {1405, {2026, 3, 21}, 0, 29},
+        {1408, {2029, 3, 20}, 3, 30},
+    };
+    for (const Case& c : cases) {
+        const CivilTime first = calendar.gregorianFields(calendar.instantOf(c.year, 1, 1, 12, 0));
+        EXPECT_EQ(std::tie(first.year, first.month, first.day), std::tie(c.newYear.year, c.newYear.month, c.newYear.day));
+        int column = c.farvardinColumn;
+        for (int m = 0; m < 12; ++m) {
+            const int length = m < 6 ? 31 : m < 11 ? 30 : c.esfandLength;
+            const MonthGrid grid = open(format("%d%02d01", {c.year % 1300, m + 1}), test::tehran(2013, 7, 1, 12));
+            const MonthPage& page = shown(grid);
+            ASSERT_EQ(page.cells.size(), static_cast<std::size_t>(length)) << c.year << " month " << m;
+            EXPECT_EQ(grid.datasource().size(), static_cast<std::size_t>(length)) << c.year << " month " << m;
+            for (const DayCell& cellOfDay : page.cells) {
+                const int slot = column + cellOfDay.place.day - 1;
+                EXPECT_EQ(cellOfDay.place, (GridPlace{(slot / 7) % 5, slot % 7, cellOfDay.place.day}))
+                    << c.year << " month " << m;
+            }
+            column = (column + length) % 7;
+        }
+    }
+}
+
+TEST_F(MonthGridTest, ThirtyOneDaysFromFridayWrapTwoDays)
+{
+    // 1 Shahrivar 1392 is a Friday: the sixth row's 30 and 31 go to row 0.
+    const MonthShape shape{1392, 5, 6, 31};
+    const std::vector<GridPlace> places = placeDays(shape);
+    ASSERT_EQ(places.size(), 31u);
+    EXPECT_EQ(places[0], (GridPlace{0, 0, 30}));
+    EXPECT_EQ(places[1], (GridPlace{0, 1, 31}));
+    // A 29-day month from Friday has no wrapped day and leaves row 0's other cells empty.
+    const std::vector<GridPlace> short29 = placeDays({1405, 11, 6, 29});
+    EXPECT_EQ(short29.front(), (GridPlace{0, 6, 1}));
+    EXPECT_EQ(short29.back(), (GridPlace{4, 6, 29}));
+}
+
+}  // namespace
+}  // namespace kavenda

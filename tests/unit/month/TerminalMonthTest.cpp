@@ -1,0 +1,92 @@
+#include "screens/calendar/TerminalMonth.h"
+
+#include "platform/IcuPersianCalendar.h"
+#include "tests/unit/icons/ShippedIcons.h"
+
+#include <gtest/gtest.h>
+
+#include <sstream>
+
+namespace kavenda {
+namespace {
+
+std::vector<std::string> lines(const std::string& text)
+{
+    std::vector<std::string> found;
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);)
+        found.push_back(line);
+    return found;
+}
+
+class TerminalMonthTest : public test::ShippedIcons {
+protected:
+    IcuPersianCalendar calendar;
+    TerminalMonth month{db, calendar};
+};
+
+TEST(TerminalMonthParse, TakesAPersianYearAndMonth)
+{
+    using YM = TerminalMonth::YearMonth;
+    EXPECT_EQ(TerminalMonth::parse("1392-01"), (YM{1392, 1}));
+    EXPECT_EQ(TerminalMonth::parse("1405-12"), (YM{1405, 12}));
+    EXPECT_EQ(TerminalMonth::parse("1392-7"), (YM{1392, 7}));
+    for (const char* bad : {"1392-13", "1392-00", "92-01", "1392", "1392-", "abcd-01", "1392-001", "1392-1a", "-1392-01", ""})
+        EXPECT_FALSE(TerminalMonth::parse(bad)) << bad;
+}
+
+TEST_F(TerminalMonthTest, PrintsFarvardin1392WithItsHolidays)
+{
+    const std::optional<std::string> printed = month.print({1392, 1}, false);
+    ASSERT_TRUE(printed);
+    const std::vector<std::string> expected{
+        "فروردین ١٣٩٢",
+        "ش ی د س چ پ ج",
+        std::string(15, ' ') + "  ١  ٢",
+        "  ٣  ٤  ٥  ٦  ٧  ٨  ٩",
+        " ١٠ ١١ ١٢ ١٣ ١٤ ١٥ ١٦",
+        " ١٧ ١٨ ١٩ ٢٠ ٢١ ٢٢ ٢٣",
+        " ٢٤ ٢٥ ٢٦ ٢٧ ٢٨ ٢٩ ٣٠",
+        " ٣١",
+        "",
+        "١* آغاز نوروز",
+        "٢* عید نوروز",
+        "٣* عید نوروز",
+        "٤* عید نوروز",
+        "١٢* روز جمهوری اسلامی ایران",
+        "١٣* روز طبیعت",
+        "٢٠ روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی",
+        "٢٥* شهادت حضرت فاطمه زهرا (س) - روز بزرگداشت عطار نیشابوری",
+        "٢٩ روز ارتش جمهوری اسلامی ایران",
+    };
+    EXPECT_EQ(lines(*printed), expected);
+    EXPECT_EQ(printed->find('\x1b'), std::string::npos);
+}
+
+TEST_F(TerminalMonthTest, ColoursHolidaysAndFridaysOnlyWhenAsked)
+{
+    const std::string red = "\x1b[31m";
+    const std::string plain = "\x1b[0m";
+    const std::vector<std::string> printed = lines(*month.print({1392, 1}, true));
+    // Thursday 1 (holiday) and Friday 2; Friday 9 is no holiday in the data but is coloured.
+    EXPECT_EQ(printed[2], std::string(15, ' ') + ' ' + red + " ١" + plain + ' ' + red + " ٢" + plain);
+    EXPECT_EQ(printed[3], ' ' + red + " ٣" + plain + ' ' + red + " ٤" + plain + "  ٥  ٦  ٧  ٨ " + red + " ٩" + plain);
+    EXPECT_EQ(printed[3].find("\x1b[31m ٥"), std::string::npos);
+    EXPECT_EQ(printed[9], red + "١*" + plain + " آغاز نوروز");
+    EXPECT_EQ(printed[15], "٢٠ روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
+}
+
+TEST_F(TerminalMonthTest, LaterYearsAndMonthsOutsideTheData)
+{
+    // Esfand 1408 has 30 days and starts on a Tuesday (336 days after Tuesday 1 Farvardin).
+    const std::vector<std::string> esfand = lines(*month.print({1408, 12}, false));
+    EXPECT_EQ(esfand[0], "اسفند ١٤٠٨");
+    EXPECT_EQ(esfand[2], std::string(9, ' ') + "  ١  ٢  ٣  ٤");
+    EXPECT_EQ(esfand[6], " ٢٦ ٢٧ ٢٨ ٢٩ ٣٠");
+    EXPECT_EQ(esfand[7], "");
+    EXPECT_FALSE(month.print({1391, 12}, false));
+    EXPECT_FALSE(month.print({1411, 1}, false));
+}
+
+}  // namespace
+}  // namespace kavenda
