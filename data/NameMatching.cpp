@@ -2,40 +2,35 @@
 
 #include <sqlite3.h>
 
-#include <vector>
-
 namespace kavenda {
 
 namespace {
 
 constexpr char32_t zeroWidthNonJoiner = 0x200C;
+constexpr char32_t endOfText = 0xFFFFFFFF;
 
-// Code points without the non-joiners; a byte that starts no valid sequence stands for itself.
-std::vector<char32_t> letters(std::string_view text)
+// The code point at `at`, moving `at` past it and past the non-joiners; a byte that starts no
+// valid sequence stands for itself. Read in place: this runs once for every row a LIKE sees.
+char32_t next(std::string_view text, std::size_t& at)
 {
-    std::vector<char32_t> out;
-    out.reserve(text.size());
-    for (std::size_t i = 0; i < text.size();) {
-        const auto lead = static_cast<unsigned char>(text[i]);
+    while (at < text.size()) {
+        const auto lead = static_cast<unsigned char>(text[at]);
         const std::size_t length = lead < 0x80 ? 1 : (lead >> 5) == 0x6 ? 2 : (lead >> 4) == 0xE ? 3
                                  : (lead >> 3) == 0x1E ? 4 : 0;
         char32_t code = length == 1 ? lead : length == 2 ? lead & 0x1F : length == 3 ? lead & 0x0F : lead & 0x07;
-        bool valid = length > 0 && i + length <= text.size();
+        bool valid = length > 0 && at + length <= text.size();
         for (std::size_t k = 1; valid && k < length; ++k) {
-            const auto next = static_cast<unsigned char>(text[i + k]);
-            valid = (next & 0xC0) == 0x80;
-            code = (code << 6) | (next & 0x3F);
+            const auto following = static_cast<unsigned char>(text[at + k]);
+            valid = (following & 0xC0) == 0x80;
+            code = (code << 6) | (following & 0x3F);
         }
-        if (!valid) {
-            code = lead;
-            i += 1;
-        } else {
-            i += length;
-        }
+        at += valid ? length : 1;
+        if (!valid)
+            return lead;
         if (code != zeroWidthNonJoiner)
-            out.push_back(code);
+            return code;
     }
-    return out;
+    return endOfText;
 }
 
 char32_t folded(char32_t c)
@@ -60,28 +55,38 @@ void like(sqlite3_context* context, int, sqlite3_value** arguments)
 
 bool likeMatches(std::string_view pattern, std::string_view text)
 {
-    const std::vector<char32_t> p = letters(pattern);
-    const std::vector<char32_t> t = letters(text);
-    std::size_t pi = 0, ti = 0;
-    // The last "%" seen and the text position it was tried against, to try one letter further.
-    std::size_t starAt = p.size(), starText = 0;
-    while (ti < t.size()) {
-        if (pi < p.size() && p[pi] == U'%') {
-            starAt = pi++;
-            starText = ti;
-        } else if (pi < p.size() && (p[pi] == U'_' || folded(p[pi]) == folded(t[ti]))) {
-            ++pi;
-            ++ti;
-        } else if (starAt < p.size()) {
-            pi = starAt + 1;
-            ti = ++starText;
+    std::size_t p = 0, t = 0;
+    // Just after the last "%" seen, and the text position it was last tried against.
+    std::size_t afterStar = std::string_view::npos, starText = 0;
+    for (;;) {
+        std::size_t tNext = t;
+        const char32_t letter = next(text, tNext);
+        if (letter == endOfText)
+            break;
+        std::size_t pNext = p;
+        const char32_t wanted = next(pattern, pNext);
+        if (wanted == U'%') {
+            afterStar = p = pNext;
+            starText = t;
+        } else if (wanted != endOfText && (wanted == U'_' || folded(wanted) == folded(letter))) {
+            p = pNext;
+            t = tNext;
+        } else if (afterStar != std::string_view::npos) {
+            // The "%" takes one letter more and the rest of the pattern is tried again.
+            p = afterStar;
+            next(text, starText);
+            t = starText;
         } else {
             return false;
         }
     }
-    while (pi < p.size() && p[pi] == U'%')
-        ++pi;
-    return pi == p.size();
+    for (;;) {
+        const char32_t wanted = next(pattern, p);
+        if (wanted == endOfText)
+            return true;
+        if (wanted != U'%')
+            return false;
+    }
 }
 
 void installNameMatching(sqlite3* database)
