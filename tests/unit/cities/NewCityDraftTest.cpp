@@ -210,19 +210,6 @@ TEST_F(NewCityDraftTest, AFailedWriteTakesBackWhatWasWrittenAndAttachesNothingEl
     EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0", "64:2"}));
 }
 
-TEST_F(NewCityDraftTest, ADraftLeftWithoutSaveWritesNothing)
-{
-    const std::string before = everyRow();
-    {
-        NewCityDraft left(db);
-        left.commitName("جهرم");
-        left.setProvince(fars, "فارس");
-        left.setOffset(3, 2);
-        EXPECT_TRUE(left.validate());
-    }
-    EXPECT_EQ(everyRow(), before);
-}
-
 // The rest of the program reads the new city as one of its own: the main screen's page and the
 // reminders shift its centre's times, and taking it off the list removes it.
 TEST_F(NewCityDraftTest, RemovingTheNewCityFromTheListDeletesItsPlaceAndOffsets)
