@@ -1,5 +1,6 @@
 #include "data/MyDB.h"
 
+#include "data/NameMatching.h"
 #include "platform/Log.h"
 #include "platform/Paths.h"
 #include "platform/Platform.h"
@@ -85,7 +86,10 @@ bool MyDB::copyDB()
 
 int MyDB::loadDB()
 {
-    return sqlite3_open(dbPath_.c_str(), &database_);
+    const int result = sqlite3_open(dbPath_.c_str(), &database_);
+    if (result == SQLITE_OK)
+        installNameMatching(database_);
+    return result;
 }
 
 void MyDB::close()

@@ -65,6 +65,13 @@ NavigationStack::~NavigationStack() {
         disconnect(screen, nullptr, this, nullptr);
 }
 
+NavigationStack* NavigationStack::of(const QWidget* screen) {
+    for (QWidget* up = screen ? screen->parentWidget() : nullptr; up; up = up->parentWidget())
+        if (auto* stack = qobject_cast<NavigationStack*>(up))
+            return stack;
+    return nullptr;
+}
+
 QWidget* NavigationStack::top() const { return screens_.isEmpty() ? nullptr : screens_.last(); }
 
 int NavigationStack::count() const { return static_cast<int>(screens_.size()); }

@@ -22,6 +22,9 @@ public:
     explicit NavigationStack(QWidget* parent = nullptr);
     ~NavigationStack() override;
 
+    // The stack a screen sits in, or null.
+    static NavigationStack* of(const QWidget* screen);
+
     void push(QWidget* screen, bool animated);
     // The root screen stays.
     void pop(bool animated);

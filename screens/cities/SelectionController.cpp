@@ -4,6 +4,7 @@
 #include "screens/cities/CitySearch.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
+#include "screens/cities/NewCityController.h"
 #include "screens/cities/RoundedCorners.h"
 #include "screens/cities/SearchController.h"
 
@@ -81,8 +82,7 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
     roundCorners(tblScrollView_, kCornerRadius);
 
     createNewCityTable_ = makeCreateRow(this);
-    // The new-city editor is not there yet: the row only answers the press.
-    connect(createNewCityTable_, &QListWidget::itemClicked, createNewCityTable_, &QListWidget::clearSelection);
+    connect(createNewCityTable_, &QListWidget::itemClicked, this, &SelectionController::NewCityControllerShow);
 
     btnSearch_->hide();
     btnDone_->hide();
@@ -144,6 +144,17 @@ void SelectionController::SearchControllerShow()
     navigation->setNavigationBarHidden(true, true);
 }
 
+void SelectionController::NewCityControllerShow()
+{
+    createNewCityTable_->clearSelection();
+    NavigationStack* navigation = navigationStack();
+    if (!navigation || navigation->top() != this)
+        return;
+    if (auto* tabs = tabBarController())
+        tabs->setTabBarHidden(true);
+    navigation->push(new NewCityController(db_), true);
+}
+
 void SelectionController::closeForm()
 {
     if (NavigationStack* navigation = navigationStack()) {
@@ -171,8 +182,11 @@ void SelectionController::appear()
         barButtonsShown_ = true;
     }
     showCities();
-    if (auto* tabs = tabBarController())
+    if (auto* tabs = tabBarController()) {
         delegate_ = tabs->parentDelegate();
+        // Back from the new-city editor, which has the whole height.
+        tabs->setTabBarHidden(false);
+    }
     // Once the appearance is complete: a push from inside a show event would change the
     // stack while it is still showing this screen.
     if (openSearch)

@@ -30,6 +30,8 @@ public:
     void updateDataSource();
     void Done();
     void SearchControllerShow();
+    // Opens the editor of a city the database lacks.
+    void NewCityControllerShow();
     // The search is over.
     void closeForm() override;
 

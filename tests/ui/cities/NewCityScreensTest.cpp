@@ -1,0 +1,275 @@
+#include "app/PersianFont.h"
+#include "platform/qt/Animations.h"
+#include "platform/qt/NavigationStack.h"
+#include "screens/cities/CustomUITabBarController.h"
+#include "screens/cities/NewCityController.h"
+#include "screens/cities/OffsetSlider.h"
+#include "screens/cities/SearchController.h"
+#include "screens/cities/SelectionController.h"
+#include "tests/ui/cities/OptionsFixture.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPushButton>
+#include <QtTest>
+
+namespace kavenda {
+namespace {
+
+using test::OptionsFixture;
+
+// One key press per letter with the letter as its text, as a Persian keyboard sends them:
+// QTest's own key clicks carry Latin-1 letters only.
+void typeText(QWidget* field, const QString& text)
+{
+    for (const QChar letter : text) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
+        QCoreApplication::sendEvent(field, &press);
+    }
+}
+
+NewCityController* editorOf(const OptionsFixture& f)
+{
+    return qobject_cast<NewCityController*>(f.navigation()->top());
+}
+
+// Opens the editor from the city list as a user does, with the create row.
+NewCityController* openEditor(OptionsFixture& f)
+{
+    QListWidget* createRow = f.selection()->createNewCityTable();
+    QTest::mouseClick(createRow->viewport(), Qt::LeftButton, {},
+                      createRow->visualItemRect(createRow->item(0)).center());
+    return editorOf(f);
+}
+
+void pickProvince(OptionsFixture& f, NewCityController* editor, const QString& typed)
+{
+    QTest::mouseClick(editor->provinceRow(), Qt::LeftButton);
+    SearchController* search = f.search();
+    QVERIFY(search);
+    QCOMPARE(search->typeID(), 1);
+    QVERIFY(f.navigation()->isNavigationBarHidden());
+    typeText(search->searchBar(), typed);
+    QCOMPARE(search->tblResult()->count(), 1);
+    QTest::mouseClick(search->tblResult()->viewport(), Qt::LeftButton, {},
+                      search->tblResult()->visualItemRect(search->tblResult()->item(0)).center());
+    QCOMPARE(editorOf(f), editor);
+    QVERIFY(!f.navigation()->isNavigationBarHidden());
+}
+
+QString persian(const char* text)
+{
+    return QString::fromUtf8(text);
+}
+
+}  // namespace
+
+class NewCityScreensTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        setAnimationsEnabled(false);
+        usePersianFont();
+    }
+
+    void theCreateRowOpensAnEmptyEditorOverTheWholeHeight()
+    {
+        OptionsFixture f;
+        f.choose({32});
+        f.open();
+        NewCityController* editor = openEditor(f);
+        QVERIFY(editor);
+        QVERIFY(f.tabs()->isTabBarHidden());
+        QVERIFY(!f.navigation()->isNavigationBarHidden());
+        QCOMPARE(f.navigation()->title(), persian("شهر جدید"));
+        QVERIFY(editor->btnSave()->isVisible());
+        QCOMPARE(editor->btnSave()->text(), persian("ذخیره"));
+        QVERIFY(!editor->btnSave()->isEnabled());
+        // Save takes the place of the list's Done in the bar.
+        QCOMPARE(editor->btnSave()->geometry().right(), f.selection()->btnDone()->geometry().right());
+        QCOMPARE(editor->nameField()->placeholderText(), persian("بدون نام"));
+        QCOMPARE(editor->nameField()->text(), QString());
+        QCOMPARE(editor->provinceValue()->text(), QString());
+        QCOMPARE(editor->sectionHeader()->text(), persian("اختلاف تا مرکز استان(دقیقه)") + QString(7, QLatin1Char(' ')));
+
+        const struct {
+            const char* label;
+            int size;
+        } rows[] = {{"اذان صبح", 17}, {"طلوع آفتاب", 16}, {"اذان ظهر", 17},
+                    {"غروب آفتاب", 16}, {"اذان مغرب", 17}, {"نیمه شب شرعی", 12}};
+        for (int i = 0; i < NewCityController::offsetCount; ++i) {
+            QCOMPARE(editor->rowLabel(i)->text(), persian(rows[i].label));
+            QCOMPARE(editor->rowLabel(i)->font().pixelSize(), rows[i].size);
+            QVERIFY(editor->rowLabel(i)->font().bold());
+            QCOMPARE(editor->slider(i)->minutes(), 0);
+            QCOMPARE(editor->valueLabel(i)->text(), QStringLiteral("\u0660"));
+        }
+    }
+
+    void typingARealNameAndPickingAProvinceSavesTheCityAtTheEndOfTheList()
+    {
+        OptionsFixture f;
+        f.choose({32, 35, 63});
+        f.open();
+        NewCityController* editor = openEditor(f);
+        QVERIFY(editor);
+
+        editor->nameField()->setFocus();
+        typeText(editor->nameField(), QStringLiteral("\u0643\u0648\u064A"));  // Arabic kaf and yeh
+        QVERIFY(!editor->btnSave()->isEnabled());
+        QTest::keyClick(editor->nameField(), Qt::Key_Return);
+        QCOMPARE(editor->draft().cityName(), std::string("\u0643\u0648\u064A"));
+        QVERIFY2(!editor->btnSave()->isEnabled(), "no province yet");
+
+        // Keys move a whole minute; a drag stops anywhere and counts the minutes it has passed.
+        QTest::keyClick(editor->slider(1), Qt::Key_Up);
+        editor->slider(4)->setValue(-120);
+        editor->slider(5)->setValue(1000);
+        editor->slider(0)->setValue(-20);
+        QCOMPARE(editor->valueLabel(1)->text(), QStringLiteral("\u0661"));
+        QCOMPARE(editor->valueLabel(4)->text(), QStringLiteral("-\u0662"));
+        QCOMPARE(editor->valueLabel(5)->text(), QStringLiteral("\u0661\u0660"));
+        QCOMPARE(editor->valueLabel(0)->text(), QStringLiteral("-\u0661"));
+        editor->slider(0)->setValue(0);
+        editor->slider(5)->setValue(550);
+        QCOMPARE(editor->draft().difArray(), (std::array<int, 6>{0, 1, 0, 0, -2, 5}));
+
+        pickProvince(f, editor, QStringLiteral("تهر"));
+        QCOMPARE(editor->provinceValue()->text(), persian("تهران"));
+        QCOMPARE(editor->nameField()->text(), QStringLiteral("\u0643\u0648\u064A"));
+        QVERIFY(editor->btnSave()->isEnabled());
+        f.saveScreenshot(QStringLiteral("new-city-editor.png"));
+
+        QTest::mouseClick(editor->btnSave(), Qt::LeftButton);
+        QCOMPARE(f.navigation()->top(), f.selection());
+        QVERIFY(!f.tabs()->isTabBarHidden());
+        QCOMPARE(f.listedNames().last(), persian("کوی (تهران)"));
+        QCOMPARE(f.orderings().last(), QStringLiteral("64:4"));
+        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 64 AND Date = 14000101 AND T1 = 0 AND T2 = 1 "
+                           "AND T3 = 0 AND T4 = 0 AND T5 = -2 AND T6 = 5"),
+                 1);
+    }
+
+    void onlyACommittedNameCounts()
+    {
+        OptionsFixture f;
+        f.choose({32});
+        f.open();
+        NewCityController* editor = openEditor(f);
+        QTest::keyClick(editor->slider(0), Qt::Key_Up);
+        QVERIFY2(!editor->btnSave()->isEnabled(), "a slider before any name");
+        pickProvince(f, editor, QStringLiteral("یزد"));
+        QVERIFY2(!editor->btnSave()->isEnabled(), "a province alone");
+
+        editor->nameField()->setFocus();
+        typeText(editor->nameField(), QStringLiteral("مهریز"));
+        QVERIFY2(!editor->btnSave()->isEnabled(), "typed, not committed");
+        QTest::keyClick(editor->slider(2), Qt::Key_Down);
+        QVERIFY2(editor->btnSave()->isEnabled(), "a slider commits the name");
+        QCOMPARE(editor->draft().cityName(), persian("مهریز").toStdString());
+
+        // Typed on but not committed again: Save keeps the last committed name.
+        typeText(editor->nameField(), QStringLiteral(" نو"));
+        QTest::mouseClick(editor->btnSave(), Qt::LeftButton);
+        QCOMPARE(f.listedNames().last(), persian("مهریز (یزد)"));
+        QCOMPARE(f.countOf("SELECT T3 FROM tTimes WHERE StateID = 64"), -1);
+    }
+
+    void cancellingTheProvinceSearchAndGoingBackWriteNothing()
+    {
+        OptionsFixture f;
+        f.choose({32});
+        f.open();
+        const int places = f.countOf("SELECT COUNT(*) FROM tStates");
+        NewCityController* editor = openEditor(f);
+        pickProvince(f, editor, QStringLiteral("کرم"));
+        QTest::mouseClick(editor->provinceRow(), Qt::LeftButton);
+        QVERIFY(f.search());
+        QTest::mouseClick(f.search()->cancelButton(), Qt::LeftButton);
+        QCOMPARE(editorOf(f), editor);
+        QCOMPARE(editor->draft().provinceID(), 4);
+        QCOMPARE(editor->provinceValue()->text(), persian("کرمان"));
+
+        editor->nameField()->setFocus();
+        typeText(editor->nameField(), QStringLiteral("بم"));
+        QTest::keyClick(editor->nameField(), Qt::Key_Return);
+        QVERIFY(editor->btnSave()->isEnabled());
+        QTest::mouseClick(editor->btnBack(), Qt::LeftButton);
+        QCOMPARE(f.navigation()->top(), f.selection());
+        QVERIFY(!f.tabs()->isTabBarHidden());
+        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tStates"), places);
+        QCOMPARE(f.orderings(), QStringList{QStringLiteral("32:0")});
+    }
+
+    void aRefusedSaveKeepsTheEditorOpenAndSaysSo()
+    {
+        OptionsFixture f;
+        f.choose({32});
+        f.open();
+        QVERIFY(f.db().ExecuteNonQuery(
+            "CREATE TRIGGER full BEFORE INSERT ON tTimes BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
+        NewCityController* editor = openEditor(f);
+        editor->nameField()->setFocus();
+        typeText(editor->nameField(), QStringLiteral("بم"));
+        pickProvince(f, editor, QStringLiteral("کرم"));
+        QTest::mouseClick(editor->btnSave(), Qt::LeftButton);
+        QCOMPARE(editorOf(f), editor);
+        QVERIFY(editor->failureLine()->isVisible());
+        QVERIFY(!editor->failureLine()->text().isEmpty());
+        QVERIFY(!editor->failureLine()->text().contains(QLatin1Char('\n')));
+        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tStates WHERE StateID > 63"), 0);
+        QCOMPARE(f.orderings(), QStringList{QStringLiteral("32:0")});
+        f.saveScreenshot(QStringLiteral("new-city-refused.png"));
+    }
+
+    void everyControlIsNamedInPersian()
+    {
+        OptionsFixture f;
+        f.choose({32});
+        f.open();
+        NewCityController* editor = openEditor(f);
+        const struct {
+            QWidget* widget;
+            QAccessible::Role role;
+            const char* name;
+        } controls[] = {
+            {editor->nameField(), QAccessible::EditableText, "نام شهر"},
+            {editor->provinceRow(), QAccessible::Button, "استان"},
+            {editor->btnSave(), QAccessible::Button, "ذخیره"},
+            {editor->btnBack(), QAccessible::Button, "بازگشت"},
+            {editor->slider(0), QAccessible::Slider, "اذان صبح"},
+            {editor->slider(5), QAccessible::Slider, "نیمه شب شرعی"},
+        };
+        for (const auto& c : controls) {
+            QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(c.widget);
+            QVERIFY(accessible);
+            QCOMPARE(accessible->role(), c.role);
+            QCOMPARE(accessible->text(QAccessible::Name), persian(c.name));
+            QVERIFY(c.widget->focusPolicy() != Qt::NoFocus);
+        }
+
+        // A screen reader reads and sets the sliders in minutes.
+        editor->slider(4)->setValue(-150);
+        QAccessibleValueInterface* value = QAccessible::queryAccessibleInterface(editor->slider(4))->valueInterface();
+        QVERIFY(value);
+        QCOMPARE(value->currentValue().toInt(), -2);
+        QCOMPARE(value->minimumValue().toInt(), -10);
+        QCOMPARE(value->maximumValue().toInt(), 10);
+        value->setCurrentValue(7);
+        QCOMPARE(editor->draft().difArray()[4], 7);
+        QCOMPARE(editor->valueLabel(4)->text(), QStringLiteral("\u0667"));
+
+        pickProvince(f, editor, QStringLiteral("اصف"));
+        QCOMPARE(QAccessible::queryAccessibleInterface(editor->provinceRow())->text(QAccessible::Description),
+                 persian("اصفهان"));
+    }
+};
+
+}  // namespace kavenda
+
+QTEST_MAIN(kavenda::NewCityScreensTest)
+#include "NewCityScreensTest.moc"

@@ -1,0 +1,270 @@
+#include "screens/cities/NewCityDraft.h"
+
+#include "calendar/DateTimePersian.h"
+#include "platform/FixedClock.h"
+#include "platform/IcuPersianCalendar.h"
+#include "reminders/MyNotification.h"
+#include "screens/cities/ChosenCities.h"
+#include "screens/cities/CitySearch.h"
+#include "screens/main/CityPages.h"
+#include "tests/support/RecordingNotificationService.h"
+#include "tests/support/ScriptedRandom.h"
+#include "tests/support/TehranTime.h"
+#include "tests/unit/cities/CitiesFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <limits>
+
+namespace kavenda {
+namespace {
+
+constexpr int tehranProvince = 1;
+constexpr int fars = 8;
+// The fixture's places end at 63, so the database numbers the next one 64.
+constexpr int newId = 64;
+
+class NewCityDraftTest : public test::CitiesFixture {
+protected:
+    NewCityDraftTest()
+    {
+        exec("INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES (8, 'فارس', NULL, 0)");
+    }
+
+    void exec(const std::string& sql) { ASSERT_TRUE(db.ExecuteNonQuery(sql)) << sql; }
+
+    // Every row the draft can write, as text, to compare before and after.
+    std::string everyRow()
+    {
+        std::string all;
+        for (const char* sql : {"SELECT StateID, Name, ParentID, IsCenter FROM tStates ORDER BY StateID",
+                                "SELECT StateID, Date, T1, T2, T3, T4, T5, T6 FROM tTimes WHERE Date = 14000101",
+                                "SELECT StateID, Ordering FROM tSelectedStates ORDER BY StateID"})
+            for (const Row& row : db.Execute(sql))
+                for (const auto& [column, value] : row)
+                    all += column + "=" + value + ";";
+        return all;
+    }
+
+    NewCityDraft draft{db};
+};
+
+TEST_F(NewCityDraftTest, SaveFollowsTheCommittedNameAndTheProvince)
+{
+    const struct {
+        const char* what;
+        std::function<void(NewCityDraft&)> steps;
+        bool enabled;
+    } cases[] = {
+        {"opening", [](NewCityDraft&) {}, false},
+        {"a province alone", [](NewCityDraft& d) { d.setProvince(fars, "فارس"); }, false},
+        {"a slider before any name", [](NewCityDraft& d) {
+             d.commitName("");
+             d.setOffset(2, 4.5);
+         }, false},
+        {"a name alone", [](NewCityDraft& d) { d.commitName("جهرم"); }, false},
+        {"a name, then a province", [](NewCityDraft& d) {
+             d.commitName("جهرم");
+             d.setProvince(fars, "فارس");
+         }, true},
+        {"a province, then a name", [](NewCityDraft& d) {
+             d.setProvince(fars, "فارس");
+             d.commitName("جهرم");
+         }, true},
+        {"a name of blanks", [](NewCityDraft& d) {
+             d.setProvince(fars, "فارس");
+             d.commitName("   ");
+         }, true},
+        {"the name emptied again", [](NewCityDraft& d) {
+             d.setProvince(fars, "فارس");
+             d.commitName("جهرم");
+             d.commitName("");
+         }, false},
+        {"a province picked again", [](NewCityDraft& d) {
+             d.commitName("جهرم");
+             d.setProvince(fars, "فارس");
+             d.setProvince(tehranProvince, "تهران");
+         }, true},
+    };
+    for (const auto& c : cases) {
+        NewCityDraft fresh(db);
+        c.steps(fresh);
+        EXPECT_EQ(fresh.validate(), c.enabled) << c.what;
+    }
+}
+
+TEST_F(NewCityDraftTest, SliderPositionsAreFlooredToWholeMinutes)
+{
+    const struct {
+        double position;
+        int minutes;
+    } cases[] = {
+        {0.0, 0},   {-0.2, -1},  {-0.001, -1}, {0.999, 0},   {9.7, 9},      {9.999, 9},
+        {10.0, 10}, {-10.0, -10}, {-9.5, -10}, {-3.0, -3},   {-10.4, -10},  {12.0, 10},
+        {std::numeric_limits<double>::quiet_NaN(), 0},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(NewCityDraft::offsetAt(c.position), c.minutes) << c.position;
+
+    EXPECT_EQ(draft.setOffset(4, -1.5), -2);
+    EXPECT_EQ(draft.setOffset(6, 3.0), 0) << "there are six times only";
+    EXPECT_EQ(draft.difArray(), (std::array<int, 6>{0, 0, 0, 0, -2, 0}));
+}
+
+TEST_F(NewCityDraftTest, SaveWritesThePlaceItsOffsetsAndItsTurnInThatOrder)
+{
+    exec("CREATE TABLE writes(seq INTEGER PRIMARY KEY, what TEXT)");
+    exec("CREATE TRIGGER placeWritten AFTER INSERT ON tStates BEGIN INSERT INTO writes(what) VALUES('tStates ' || "
+         "NEW.StateID || ' ' || NEW.Name || ' ' || NEW.ParentID || ' ' || NEW.IsCenter); END");
+    exec("CREATE TRIGGER timesWritten AFTER INSERT ON tTimes BEGIN INSERT INTO writes(what) VALUES('tTimes ' || "
+         "NEW.StateID || ' ' || NEW.Date || ' ' || NEW.T1 || ' ' || NEW.T2 || ' ' || NEW.T3 || ' ' || NEW.T4 || ' ' "
+         "|| NEW.T5 || ' ' || NEW.T6); END");
+    exec("CREATE TRIGGER choiceWritten AFTER INSERT ON tSelectedStates BEGIN INSERT INTO writes(what) "
+         "VALUES('tSelectedStates ' || NEW.StateID || ' ' || NEW.Ordering); END");
+    choose(32, 0);
+    choose(35, 1);
+    choose(63, 2);
+    exec("DELETE FROM writes");
+
+    draft.setProvince(fars, "فارس");
+    for (int i = 0; i < 6; ++i)
+        draft.setOffset(i, std::array<double, 6>{0.3, 1.0, 0.0, 0.9, -1.2, 5.5}[static_cast<std::size_t>(i)]);
+    draft.commitName("جهرم");
+    ASSERT_TRUE(draft.save());
+
+    std::vector<std::string> writes;
+    for (const Row& row : db.Execute("SELECT what FROM writes ORDER BY seq"))
+        writes.push_back(row.at("what"));
+    EXPECT_EQ(writes, (std::vector<std::string>{"tStates 64 جهرم 8 0", "tTimes 64 14000101 0 1 0 0 -2 5",
+                                                "tSelectedStates 64 4"}));
+    EXPECT_EQ(db.ExecuteScaler("SELECT typeof(Date) || typeof(T1) || typeof(T5) FROM tTimes WHERE StateID = 64"),
+              "integerintegerinteger")
+        << "the readers compare and add these as numbers";
+}
+
+TEST_F(NewCityDraftTest, NamesAreStoredWithPersianLettersAndQuotesAsTypedAndFoundAgain)
+{
+    const struct {
+        const char* typed;
+        const char* stored;
+        const char* searched;
+    } cases[] = {
+        {"كوي علي", "کوی علی", "\u0643\u0648\u064A"},      // Arabic kaf and yeh, typed and searched
+        {"Shah's Town", "Shah's Town", "h's t"},            // the quote is part of the name
+        {"آق\u200Cقلا", "آق\u200Cقلا", "آققلا"},             // the non-joiner typed, not searched
+        {"بندرگز", "بندرگز", "بندر\u200Cگز"},                // and the other way round
+    };
+    for (const auto& c : cases) {
+        NewCityDraft fresh(db);
+        fresh.commitName(c.typed);
+        fresh.setProvince(tehranProvince, "تهران");
+        ASSERT_TRUE(fresh.save()) << c.typed;
+        const std::string id = db.ExecuteScaler("SELECT MAX(StateID) FROM tStates").value_or("");
+        EXPECT_EQ(db.ExecuteScaler("SELECT Name FROM tStates WHERE StateID = " + id), c.stored);
+        // A city the user made and then took off the list only to find it again.
+        exec("DELETE FROM tSelectedStates WHERE StateID = " + id);
+        CitySearch search(db);
+        search.textDidChange(c.searched);
+        ASSERT_EQ(search.count(), 1) << c.searched;
+        EXPECT_EQ(search.nameAt(0), std::string(c.stored) + " (تهران)");
+    }
+}
+
+TEST_F(NewCityDraftTest, AFailedWriteTakesBackWhatWasWrittenAndAttachesNothingElsewhere)
+{
+    const struct {
+        const char* what;
+        const char* fault;
+    } cases[] = {
+        {"the place refused", "CREATE TRIGGER fault BEFORE INSERT ON tStates BEGIN SELECT RAISE(ABORT, 'full'); END"},
+        {"the offset row refused",
+         "CREATE TRIGGER fault BEFORE INSERT ON tTimes BEGIN SELECT RAISE(ABORT, 'full'); END"},
+        {"an offset row left over under the new identifier",
+         "INSERT INTO tTimes VALUES(64, 14000101, 9, 9, 9, 9, 9, 9)"},
+        {"the choice refused",
+         "CREATE TRIGGER fault BEFORE INSERT ON tSelectedStates BEGIN SELECT RAISE(ABORT, 'full'); END"},
+        {"a choice left over under the new identifier", "INSERT INTO tSelectedStates VALUES(64, 7)"},
+    };
+    choose(32, 0);
+    for (const auto& c : cases) {
+        exec(c.fault);
+        const std::string before = everyRow();
+        NewCityDraft fresh(db);
+        fresh.commitName("جهرم");
+        fresh.setProvince(fars, "فارس");
+        fresh.setOffset(0, -3);
+        EXPECT_FALSE(fresh.save()) << c.what;
+        EXPECT_EQ(everyRow(), before) << c.what;
+        EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE Name = 'جهرم'"), 0) << c.what;
+        exec("DROP TRIGGER IF EXISTS fault");
+        exec("DELETE FROM tTimes WHERE StateID = 64");
+        exec("DELETE FROM tSelectedStates WHERE StateID = 64");
+    }
+    // The database is whole again: the same draft now goes through.
+    NewCityDraft fresh(db);
+    fresh.commitName("جهرم");
+    fresh.setProvince(fars, "فارس");
+    EXPECT_TRUE(fresh.save());
+    EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0", "64:2"}));
+}
+
+// The rest of the program reads the new city as one of its own: the main screen's page and the
+// reminders shift its centre's times, and taking it off the list removes it.
+TEST_F(NewCityDraftTest, RemovingTheNewCityFromTheListDeletesItsPlaceAndOffsets)
+{
+    draft.commitName("جهرم");
+    draft.setProvince(fars, "فارس");
+    ASSERT_TRUE(draft.save());
+    ChosenCities cities(db, [] {});
+    cities.updateDataSource();
+    ASSERT_EQ(cities.count(), 1);
+    EXPECT_EQ(cities.nameAt(0), "جهرم (فارس)");
+    cities.remove(0);
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 64"), 0);
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 64"), 0);
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 8"), 1);
+}
+
+TEST_F(NewCityDraftTest, ThePageAndTheRemindersOfTheNewCityShiftItsCentresTimes)
+{
+    exec("UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 15, Item4 = 30, Item5 = 10");
+    draft.commitName("پردیس");
+    draft.setProvince(tehranProvince, "تهران");
+    const double positions[] = {-3, 2, 5, 0, 7, -0.5};
+    for (int i = 0; i < 6; ++i)
+        draft.setOffset(i, positions[i]);
+    ASSERT_TRUE(draft.save());
+    choose(33, 5);  // a second city after it: the new one stays first
+
+    IcuPersianCalendar calendar;
+    CityPages pages(db);
+    pages.updateDataSource(DateTimePersian::initWithPersianDate("920820", calendar));
+    ASSERT_EQ(pages.datasource().size(), 2u);
+    const Row& page = pages.datasource()[1];  // the first city's page is the last
+    // 920820 of تهران: 4:35 6:04 11:50 17:05 17:24 23:00; the next day 4:38 6:05.
+    EXPECT_EQ(page.at("Name"), "پردیس");
+    const std::vector<std::string> expected = {"4:32", "6:6", "11:55", "17:5", "17:31", "22:59", "4:35", "6:7"};
+    for (int k = 1; k <= 8; ++k)
+        EXPECT_EQ(page.at("T" + std::to_string(k)), expected[static_cast<std::size_t>(k - 1)]) << k;
+
+    FixedClock clock{test::tehran(2013, 11, 11, 0, 1)};
+    test::RecordingNotificationService notifications;
+    test::ScriptedRandom random{{0}};
+    MyNotification reminders(db, clock, calendar, notifications, random, log);
+    reminders.update();
+    std::vector<NotificationRecord> prayers;
+    for (const auto& record : notifications.records)
+        if (record.alertBody.find("پردیس") != std::string::npos)
+            prayers.push_back(record);
+    ASSERT_EQ(prayers.size(), 12u) << "three calls a day, on the four days after the offset row";
+    EXPECT_EQ(prayers[0].alertBody, "اذان صبح به افق پردیس");
+    EXPECT_EQ(prayers[0].fireDate, test::tehran(2013, 11, 11, 4, 32));
+    EXPECT_EQ(prayers[1].fireDate, test::tehran(2013, 11, 11, 11, 55));
+    EXPECT_EQ(prayers[2].fireDate, test::tehran(2013, 11, 11, 17, 31));
+    EXPECT_EQ(prayers[11].fireDate, test::tehran(2013, 11, 14, 17, 34));  // 17:27 of 920823
+}
+
+}  // namespace
+}  // namespace kavenda
