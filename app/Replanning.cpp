@@ -43,14 +43,8 @@ Replanning::Replanning(const Clock& clock, IcuPersianCalendar& calendar, Log& lo
     connect(&timer_, &QTimer::timeout, this, &Replanning::look);
 
     // The zone file is replaced, not written: watch the folder too, and the file anew.
-    connect(&zoneFile_, &QFileSystemWatcher::fileChanged, this, [this] {
-        watchZoneFile();
-        look();
-    });
-    connect(&zoneFile_, &QFileSystemWatcher::directoryChanged, this, [this] {
-        watchZoneFile();
-        look();
-    });
+    connect(&zoneFile_, &QFileSystemWatcher::fileChanged, this, &Replanning::zoneMayHaveChanged);
+    connect(&zoneFile_, &QFileSystemWatcher::directoryChanged, this, &Replanning::zoneMayHaveChanged);
     watchZoneFile();
 
     QDBusConnection system = QDBusConnection::systemBus();
@@ -60,14 +54,13 @@ Replanning::Replanning(const Clock& clock, IcuPersianCalendar& calendar, Log& lo
                        SLOT(prepareForSleep(bool)));
         system.connect(QStringLiteral("org.freedesktop.timedate1"), QStringLiteral("/org/freedesktop/timedate1"),
                        QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"), this,
-                       SLOT(timeZoneSettingsChanged()));
+                       SLOT(zoneMayHaveChanged()));
     }
     look();
 }
 
 void Replanning::look()
 {
-    calendar_.followSystemZone();
     deliverDue_();
     const Instant now = clock_.now();
     const ReplanWatch::Change change = watch_.look(now, std::chrono::steady_clock::now().time_since_epoch());
@@ -84,8 +77,10 @@ void Replanning::prepareForSleep(bool sleeping)
         look();
 }
 
-void Replanning::timeZoneSettingsChanged()
+void Replanning::zoneMayHaveChanged()
 {
+    watchZoneFile();
+    calendar_.followSystemZone();
     look();
 }
 

@@ -29,7 +29,9 @@ public:
 
 private slots:
     void prepareForSleep(bool sleeping);
-    void timeZoneSettingsChanged();
+    // The zone is read anew only when something says it may have changed: without a zone
+    // link, finding the zone means comparing the zone file with every zone there is.
+    void zoneMayHaveChanged();
 
 private:
     void watchZoneFile();
