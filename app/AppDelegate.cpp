@@ -107,6 +107,7 @@ void AppDelegate::makeTray()
     tray_ = new QSystemTrayIcon(QApplication::windowIcon(), this);
     tray_->setToolTip(QApplication::applicationDisplayName());
     auto* menu = new QMenu(window_.get());
+    menu->setLayoutDirection(Qt::RightToLeft);
     connect(menu->addAction(QStringLiteral("نمایش")), &QAction::triggered, this, &AppDelegate::showWindow);
     connect(menu->addAction(QStringLiteral("خروج")), &QAction::triggered, this, [this] {
         quitting_ = true;

@@ -72,7 +72,8 @@ int main(int argc, char** argv)
     const QCommandLineOption dataDir(QStringLiteral("data-dir"), QStringLiteral("The folder of the working database (default: the XDG data folder)."), QStringLiteral("folder"));
     const QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Start, let the first screen settle, write a PNG of the window to the file and exit."), QStringLiteral("file"));
     const QCommandLineOption reminders(QStringLiteral("reminders"), QStringLiteral("Rebuild the reminders as a start does, print the pending ones in fire order and exit."));
-    const QCommandLineOption background(QStringLiteral("background"), QStringLiteral("Start in the system tray without showing the window."));
+    const QCommandLineOption background(QStringLiteral("background"),
+                                        QStringLiteral("Start in the system tray without showing the window."));
     parser.addOptions({now, tall, dataDir, screenshot, reminders, background});
     parser.process(*app);
 

@@ -34,8 +34,8 @@ std::vector<NotificationRecord> ReminderQueue::pending() const
 
 std::vector<NotificationRecord> ReminderQueue::takeDue(Instant now)
 {
-    const auto notYet =
-        std::stable_partition(pending_.begin(), pending_.end(), [now](const NotificationRecord& r) { return r.fireDate <= now; });
+    const auto notYet = std::stable_partition(pending_.begin(), pending_.end(),
+                                              [now](const NotificationRecord& r) { return r.fireDate <= now; });
     std::vector<NotificationRecord> due(pending_.begin(), notYet);
     pending_.erase(pending_.begin(), notYet);
     std::stable_sort(due.begin(), due.end(), earlier);

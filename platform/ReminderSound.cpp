@@ -6,7 +6,10 @@
 
 namespace kavenda {
 
-ReminderSound::ReminderSound(AudioPlayer& audio, const Paths& paths, Log& log) : audio_(audio), paths_(paths), log_(log) {}
+ReminderSound::ReminderSound(AudioPlayer& audio, const Paths& paths, Log& log)
+    : audio_(audio), paths_(paths), log_(log)
+{
+}
 
 int ReminderSound::play(const NotificationRecord& record)
 {

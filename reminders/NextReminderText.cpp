@@ -40,9 +40,8 @@ std::string nextReminderText(const std::vector<NotificationRecord>& pending, Ins
     std::string body = next->alertBody;
     std::replace(body.begin(), body.end(), '\n', ' ');
     const CivilTime at = calendar.gregorianFields(next->fireDate);
-    const std::string text =
-        format("%@، %02d:%02d (%@ دیگر)", {body, at.hour, at.minute, timeLeft(std::max(next->fireDate - now, std::chrono::seconds(0)))});
-    return Utility::ConvertToPersian(text);
+    const std::string left = timeLeft(std::max(next->fireDate - now, std::chrono::seconds(0)));
+    return Utility::ConvertToPersian(format("%@، %02d:%02d (%@ دیگر)", {body, at.hour, at.minute, left}));
 }
 
 }  // namespace kavenda

@@ -61,7 +61,8 @@ private slots:
         TrayStatus status(&tray, sound, notifications, clock, calendar);
         QCOMPARE(tray.toolTip(), QGuiApplication::applicationDisplayName());
 
-        notifications.schedule({tehran(2026, 11, 23, 5, 20), "Asia/Tehran", "اذان صبح به افق تهران", "Ok", "3.wav", {}});
+        notifications.schedule(
+            {tehran(2026, 11, 23, 5, 20), "Asia/Tehran", "اذان صبح به افق تهران", "Ok", "3.wav", {}});
         const NotificationRecord evening{tehran(2026, 11, 22, 17, 13), "Asia/Tehran", "اذان مغرب به افق تهران", "Ok",
                                          "3.wav", {}};
         notifications.schedule(evening);

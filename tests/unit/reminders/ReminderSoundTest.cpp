@@ -36,7 +36,10 @@ public:
 
 class ReminderSoundTest : public ::testing::Test {
 protected:
-    NotificationRecord reminder(const std::string& soundName) { return {{}, "Asia/Tehran", "text", "Ok", soundName, {}}; }
+    NotificationRecord reminder(const std::string& soundName)
+    {
+        return {{}, "Asia/Tehran", "text", "Ok", soundName, {}};
+    }
 
     RecordingAudio audio;
     FixedPaths paths{"/documents", "/resources"};

@@ -178,8 +178,12 @@ TEST_F(RunningReminders, NoCallFiresTwice)
     run(std::chrono::duration_cast<std::chrono::minutes>(noonCall - clock.now()));
     ASSERT_EQ(timesFired(noon, noonCall), 1);
 
-    // A rebuild in the very second of the call (the window shown) schedules it again...
+    // A rebuild in the very second of the call (the window shown) schedules it again, but it
+    // is not pending (the tray would announce it)...
     reminders.update();
+    const std::vector<NotificationRecord> pending = queue.pending();
+    EXPECT_TRUE(std::none_of(pending.begin(), pending.end(),
+                             [&](const NotificationRecord& r) { return r.fireDate == noonCall; }));
     run(5min);
     // ...and so does a clock set back an hour.
     jump(-1h);
