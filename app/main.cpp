@@ -131,6 +131,18 @@ int main(int argc, char** argv)
     notifier.setTray(delegate.tray());
     QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showWindow);
 
+    if (parser.isSet(screenshot)) {
+        const QString file = parser.value(screenshot);
+        QTimer::singleShot(settleMilliseconds, &delegate, [&delegate, file] {
+            const bool saved = delegate.window()->grab().save(file, "PNG");
+            if (!saved)
+                std::fprintf(stderr, "kavenda: cannot write %s\n", qPrintable(file));
+            QCoreApplication::exit(saved ? 0 : 1);
+        });
+        // Beside a running program: nothing is announced from here.
+        return app->exec();
+    }
+
     TrayStatus status(delegate.tray(), sound, notifications, *clock, calendar);
     notifications.setDelivery([&](const NotificationRecord& record) {
         const int ticket = sound.play(record);
@@ -153,14 +165,5 @@ int main(int argc, char** argv)
                               status.refresh();
                           });
 
-    if (parser.isSet(screenshot)) {
-        const QString file = parser.value(screenshot);
-        QTimer::singleShot(settleMilliseconds, &delegate, [&delegate, file] {
-            const bool saved = delegate.window()->grab().save(file, "PNG");
-            if (!saved)
-                std::fprintf(stderr, "kavenda: cannot write %s\n", qPrintable(file));
-            QCoreApplication::exit(saved ? 0 : 1);
-        });
-    }
     return app->exec();
 }
