@@ -58,7 +58,11 @@ bool AppDelegate::didFinishLaunchingWithOptions()
     presentation_->setRoot(root_);
     window_->installEventFilter(this);
     makeTray();
-    showWindow();
+    // Without a tray a window kept hidden could never be reached.
+    if (startsInBackground_ && tray_)
+        inBackground_ = true;
+    else
+        showWindow();
     return true;
 }
 
@@ -103,8 +107,9 @@ void AppDelegate::makeTray()
     tray_ = new QSystemTrayIcon(QApplication::windowIcon(), this);
     tray_->setToolTip(QApplication::applicationDisplayName());
     auto* menu = new QMenu(window_.get());
-    connect(menu->addAction(tr("Show")), &QAction::triggered, this, &AppDelegate::showWindow);
-    connect(menu->addAction(tr("Quit")), &QAction::triggered, this, [this] {
+    menu->setLayoutDirection(Qt::RightToLeft);
+    connect(menu->addAction(QStringLiteral("نمایش")), &QAction::triggered, this, &AppDelegate::showWindow);
+    connect(menu->addAction(QStringLiteral("خروج")), &QAction::triggered, this, [this] {
         quitting_ = true;
         QCoreApplication::quit();
     });

@@ -38,6 +38,10 @@ public:
     void applicationDidEnterBackground();
     void applicationWillTerminate();
 
+    // A start in the background stays in the tray until the window is asked for.
+    void setStartsInBackground(bool background) { startsInBackground_ = background; }
+    void showWindow();
+
     QWidget* window() const { return window_.get(); }
     MainViewController* rootViewController() const;
     // Where the desktop has a tray, closing the window only hides it there; else null.
@@ -48,7 +52,6 @@ protected:
 
 private:
     void makeTray();
-    void showWindow();
     void enterBackground();
     void enterForeground();
 
@@ -61,6 +64,7 @@ private:
     bool inBackground_ = false;
     bool active_ = false;
     bool quitting_ = false;
+    bool startsInBackground_ = false;
 };
 
 }  // namespace kavenda

@@ -2,10 +2,15 @@
 #include "app/MonthCommand.h"
 #include "app/PersianFont.h"
 #include "app/ReminderList.h"
+#include "app/Replanning.h"
+#include "app/SingleInstance.h"
+#include "app/TrayStatus.h"
+#include "calendar/DateTimePersian.h"
 #include "data/MyDB.h"
 #include "platform/DeviceRandom.h"
 #include "platform/FixedScreen.h"
 #include "platform/IcuPersianCalendar.h"
+#include "platform/ReminderSound.h"
 #include "platform/StderrLog.h"
 #include "platform/ShiftedClock.h"
 #include "platform/SystemClock.h"
@@ -16,11 +21,13 @@
 #include "platform/qt/QtAudioPlayer.h"
 #include "platform/qt/QtNotificationService.h"
 #include "reminders/MyNotification.h"
+#include "screens/main/MainViewController.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDateTime>
 #include <QIcon>
+#include <QMessageBox>
 #include <QTimer>
 #include <QWidget>
 
@@ -67,7 +74,9 @@ int main(int argc, char** argv)
     const QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Start, let the first screen settle, write a PNG of the window to the file and exit."), QStringLiteral("file"));
     const QCommandLineOption reminders(QStringLiteral("reminders"), QStringLiteral("Rebuild the reminders as a start does, print the pending ones in fire order and exit."));
     const QCommandLineOption month(QStringLiteral("month"), QStringLiteral("Print a Persian month with its holidays and occasions (this month unless YYYY-MM is given) and exit."));
-    parser.addOptions({now, tall, dataDir, screenshot, reminders, month});
+    const QCommandLineOption background(QStringLiteral("background"),
+                                        QStringLiteral("Start in the system tray without showing the window."));
+    parser.addOptions({now, tall, dataDir, screenshot, reminders, month, background});
     parser.addPositionalArgument(QStringLiteral("YYYY-MM"), QStringLiteral("With --month: the Persian year and month, such as 1392-01."), QStringLiteral("[YYYY-MM]"));
     parser.process(*app);
 
@@ -105,18 +114,29 @@ int main(int argc, char** argv)
     if (parser.isSet(month))
         return printMonth(parser.positionalArguments().value(0).toStdString(), *clock, calendar);
 
+    // One program per data folder; a screenshot runs beside it.
+    SingleInstance instance(paths.documentsFolder());
+    if (!parser.isSet(screenshot)) {
+        if (instance.handOver(parser.isSet(background)))
+            return 0;
+        if (!instance.listen())
+            log.line("cannot watch for a second start; it would run beside this one");
+    }
+
     usePersianFont();
     QApplication::setApplicationDisplayName(QStringLiteral("Kavenda"));
     // Wayland docks match the window to the menu entry by this name.
     QApplication::setDesktopFileName(QStringLiteral(KAVENDA_APP_ID));
     QApplication::setWindowIcon(QIcon(QString::fromStdString((paths.resourceFolder() / "kavenda.png").string())));
 
-    DesktopNotifier notifier(audio, paths);
+    ReminderSound sound(audio, paths, log);
+    DesktopNotifier notifier(sound, paths);
     AppDelegate delegate(Platform::installed(), [&notifier](const NotificationRecord& record) { notifier.notify(record); });
-    notifications.setDelivery([&delegate](const NotificationRecord& record) { delegate.didReceiveLocalNotification(record); });
+    delegate.setStartsInBackground(parser.isSet(background));
     delegate.didFinishLaunchingWithOptions();
     alerts.setParent(delegate.window());
     notifier.setTray(delegate.tray());
+    QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showWindow);
 
     if (parser.isSet(screenshot)) {
         const QString file = parser.value(screenshot);
@@ -126,6 +146,31 @@ int main(int argc, char** argv)
                 std::fprintf(stderr, "kavenda: cannot write %s\n", qPrintable(file));
             QCoreApplication::exit(saved ? 0 : 1);
         });
+        // Beside a running program: nothing is announced from here.
+        return app->exec();
     }
+
+    TrayStatus status(delegate.tray(), sound, notifications, *clock, calendar);
+    notifications.setDelivery([&](const NotificationRecord& record) {
+        const int ticket = sound.play(record);
+        const QMessageBox* before = alerts.current();
+        delegate.didReceiveLocalNotification(record);
+        // The alert's button stops the sound of its own reminder.
+        if (QMessageBox* box = alerts.current(); box && box != before)
+            QObject::connect(box, &QDialog::finished, box, [&sound, ticket] { sound.stop(ticket); });
+        status.refresh();
+    });
+    std::string today = DateTimePersian::init(*clock, calendar).getPersianDate();
+    Replanning replanning(*clock, calendar, log, [&notifications] { notifications.deliverDue(); },
+                          [&](ReplanWatch::Change) {
+                              MyNotification::initialize().update();
+                              // A page of today moves on to the new day; a day the person picked stays.
+                              MainViewController* root = delegate.rootViewController();
+                              if (root->localDtp().getPersianDate() == today)
+                                  root->refresh();
+                              today = DateTimePersian::init(*clock, calendar).getPersianDate();
+                              status.refresh();
+                          });
+
     return app->exec();
 }

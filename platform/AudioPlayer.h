@@ -11,6 +11,8 @@ public:
     virtual bool open(const std::filesystem::path& file) = 0;
     virtual void play() = 0;
     virtual void stop() = 0;
+    // True from play until the sound ends or is stopped.
+    virtual bool isPlaying() const = 0;
 };
 
 }  // namespace kavenda

@@ -85,4 +85,16 @@ std::string IcuPersianCalendar::timeZoneId() const
     return text;
 }
 
+bool IcuPersianCalendar::followSystemZone()
+{
+    std::unique_ptr<icu::TimeZone> host(icu::TimeZone::detectHostTimeZone());
+    const std::unique_ptr<icu::TimeZone> current(icu::TimeZone::createDefault());
+    if (!host || (current && *host == *current))
+        return false;
+    icu::TimeZone::adoptDefault(host.release());
+    // The calendars took the zone that was the default when they were made.
+    calendars_ = std::make_unique<Calendars>();
+    return true;
+}
+
 }  // namespace kavenda

@@ -17,6 +17,9 @@ public:
     Instant instantOf(int year, int month, int day, int hour, int minute) const override;
     CivilTime gregorianFields(Instant instant) const override;
     std::string timeZoneId() const override;
+    // Takes the system's time zone anew (TZ, else the zone file) as ICU's default zone and
+    // this calendar's; true when it changed.
+    bool followSystemZone();
 
 private:
     struct Calendars;

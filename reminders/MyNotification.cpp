@@ -183,6 +183,12 @@ void MyNotification::add(Instant moment, std::string_view cityName, int type, in
         moment, calendar_.timeZoneId(), body, "Ok", soundName, {{"someKey", "someValue"}}});
 }
 
+bool MyNotification::isCall(std::string_view alertBody)
+{
+    const std::string_view lead = callText.substr(0, callText.find('%'));
+    return alertBody.starts_with(lead);
+}
+
 void MyNotification::updateCalendarEvents(std::string_view time)
 {
     // "0", and anything else that is not a time with a colon, means the announcements are off.

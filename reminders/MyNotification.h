@@ -34,6 +34,8 @@ public:
     void add(Instant moment, std::string_view cityName, int type, int value, int sound);
     // Announces the next dates with occasions at a wall-clock time ("0": not at all).
     void updateCalendarEvents(std::string_view time);
+    // Whether a notification's text is one of the three calls (dawn, noon, evening).
+    static bool isCall(std::string_view alertBody);
 
 private:
     void schedulePrayerTimes(const RowSet& city, const RowSet& settings, int sound);

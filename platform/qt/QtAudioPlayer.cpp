@@ -23,4 +23,6 @@ void QtAudioPlayer::play() { player_.play(); }
 
 void QtAudioPlayer::stop() { player_.stop(); }
 
+bool QtAudioPlayer::isPlaying() const { return player_.playbackState() == QMediaPlayer::PlayingState; }
+
 }  // namespace kavenda

@@ -14,6 +14,7 @@ public:
     bool open(const std::filesystem::path& file) override;
     void play() override;
     void stop() override;
+    bool isPlaying() const override;
 
 private:
     QAudioOutput output_;

@@ -21,41 +21,28 @@ QtNotificationService::QtNotificationService(const Clock& clock, QObject* parent
 }
 
 void QtNotificationService::cancelAll() {
-    pending_.clear();
+    queue_.cancelAll();
     rearm();
 }
 
 void QtNotificationService::schedule(const NotificationRecord& record) {
-    pending_.push_back(record);
+    queue_.schedule(record);
     rearm();
 }
 
-std::vector<NotificationRecord> QtNotificationService::pending() const { return pending_; }
+std::vector<NotificationRecord> QtNotificationService::pending() const { return queue_.pending(); }
 
 void QtNotificationService::setDelivery(Delivery delivery) { delivery_ = std::move(delivery); }
 
 void QtNotificationService::deliverDue() {
-    const Instant now = clock_.now();
-    const auto notYet = std::stable_partition(pending_.begin(), pending_.end(),
-                                              [now](const NotificationRecord& r) { return r.fireDate <= now; });
-    std::vector<NotificationRecord> due(pending_.begin(), notYet);
-    pending_.erase(pending_.begin(), notYet);
-    std::stable_sort(due.begin(), due.end(),
-                     [](const NotificationRecord& a, const NotificationRecord& b) { return a.fireDate < b.fireDate; });
     // The hook may schedule or cancel; the timer is set once it has seen every due record.
-    for (const NotificationRecord& record : due)
+    for (const NotificationRecord& record : queue_.takeDue(clock_.now()))
         if (delivery_)
             delivery_(record);
     rearm();
 }
 
-std::optional<Instant> QtNotificationService::nextFireDate() const {
-    const auto earliest = std::min_element(pending_.begin(), pending_.end(),
-        [](const NotificationRecord& a, const NotificationRecord& b) { return a.fireDate < b.fireDate; });
-    if (earliest == pending_.end())
-        return std::nullopt;
-    return earliest->fireDate;
-}
+std::optional<Instant> QtNotificationService::nextFireDate() const { return queue_.nextFireDate(); }
 
 void QtNotificationService::rearm() {
     const std::optional<Instant> next = nextFireDate();

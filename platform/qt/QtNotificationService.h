@@ -2,6 +2,7 @@
 
 #include "platform/Clock.h"
 #include "platform/NotificationService.h"
+#include "platform/ReminderQueue.h"
 
 #include <QObject>
 #include <QTimer>
@@ -11,9 +12,10 @@
 
 namespace kavenda {
 
-// Keeps the pending records and hands each to the delivery hook at its moment. "Now" comes
-// from the clock it is given, which must run on (a ShiftedClock under --now); the timer only
-// says when to look again, so a late wake-up or a changed system clock delivers what is due.
+// Keeps the pending records and hands each to the delivery hook at its moment, by the rules of
+// ReminderQueue (a little late still fires, slept through is dropped, nothing fires twice).
+// "Now" comes from the clock it is given, which must run on (a ShiftedClock under --now); the
+// timer only says when to look again, so a late wake-up or a changed system clock is noticed.
 class QtNotificationService : public QObject, public NotificationService {
     Q_OBJECT
 
@@ -35,7 +37,7 @@ private:
     void rearm();
 
     const Clock& clock_;
-    std::vector<NotificationRecord> pending_;
+    ReminderQueue queue_;
     Delivery delivery_;
     QTimer timer_;
 };

@@ -71,6 +71,17 @@ TEST_F(ShippedReminders, ACentreGetsFiveOccasionsAndThirtyPrayerTimes)
     }
 }
 
+// The desktop offers to stop the sound of these three.
+TEST_F(ShippedReminders, OnlyTheThreeCallsAreCalls)
+{
+    const auto records = updateFor(tehranCentre);
+    ASSERT_EQ(records.size(), 35u);
+    for (std::size_t i = 0; i < records.size(); ++i) {
+        const bool call = i >= 5 && (i - 5) % 6 < 3;
+        EXPECT_EQ(MyNotification::isCall(records[i].alertBody), call) << records[i].alertBody;
+    }
+}
+
 TEST_F(ShippedReminders, ACityMadeByTheUserIsShiftedFromItsCentre)
 {
     ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertCity, {"شهریار", tehranProvince})));

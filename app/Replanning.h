@@ -1,0 +1,49 @@
+#pragma once
+
+#include "reminders/ReplanWatch.h"
+
+#include <QFileSystemWatcher>
+#include <QObject>
+#include <QTimer>
+
+#include <functional>
+
+namespace kavenda {
+
+class Clock;
+class IcuPersianCalendar;
+class Log;
+
+// Tells a program that runs for weeks when to rebuild its reminders. It looks at the clocks at
+// every local midnight and at least once a minute, and at once when the desktop says something
+// changed: a resume from suspend (logind), a new time zone (timedated, the zone file).
+class Replanning : public QObject {
+    Q_OBJECT
+
+public:
+    // What is due is delivered before a rebuild, which would drop what is only a little late.
+    Replanning(const Clock& clock, IcuPersianCalendar& calendar, Log& log, std::function<void()> deliverDue,
+               std::function<void(ReplanWatch::Change)> replan, QObject* parent = nullptr);
+
+    void look();
+
+private slots:
+    void prepareForSleep(bool sleeping);
+    // The zone is read anew only when something says it may have changed: without a zone
+    // link, finding the zone means comparing the zone file with every zone there is.
+    void zoneMayHaveChanged();
+
+private:
+    void watchZoneFile();
+
+    const Clock& clock_;
+    IcuPersianCalendar& calendar_;
+    Log& log_;
+    std::function<void()> deliverDue_;
+    std::function<void(ReplanWatch::Change)> replan_;
+    ReplanWatch watch_;
+    QTimer timer_;
+    QFileSystemWatcher zoneFile_;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "platform/NotificationRecord.h"
+
+#include <string>
+#include <vector>
+
+namespace kavenda {
+
+class PersianCalendar;
+
+// The earliest pending reminder, its wall-clock time and the time left, in Persian:
+// "اذان مغرب به افق تهران، ١٧:١٣ (٢ ساعت و ١٥ دقیقه دیگر)". Empty when nothing is pending.
+std::string nextReminderText(const std::vector<NotificationRecord>& pending, Instant now,
+                             const PersianCalendar& calendar);
+
+}  // namespace kavenda

@@ -1,0 +1,51 @@
+#include "app/Replanning.h"
+#include "platform/FixedClock.h"
+#include "platform/IcuPersianCalendar.h"
+#include "tests/support/RecordingLog.h"
+#include "tests/support/TehranTime.h"
+
+#include <QtTest>
+
+#include <string>
+#include <vector>
+
+namespace kavenda {
+
+// The program's looks at the clocks, on a clock the test moves.
+class ReplanningTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void aJumpDeliversWhatIsDueThenRebuildsOnce()
+    {
+        FixedClock clock(test::tehran(2026, 11, 22, 11, 0));
+        IcuPersianCalendar calendar;
+        test::RecordingLog log;
+        std::vector<std::string> calls;
+        Replanning replanning(clock, calendar, log, [&calls] { calls.push_back("deliver"); },
+                              [&calls](ReplanWatch::Change change) {
+                                  calls.push_back(change == ReplanWatch::Change::clockJump ? "jump" : "other");
+                              });
+        QCOMPARE(calls, std::vector<std::string>{"deliver"});
+
+        calls.clear();
+        replanning.look();
+        QCOMPARE(calls, std::vector<std::string>{"deliver"});
+
+        // Three hours pass on the wall clock only: a resume from suspend.
+        calls.clear();
+        clock.set(test::tehran(2026, 11, 22, 14, 0));
+        replanning.look();
+        QCOMPARE(calls, (std::vector<std::string>{"deliver", "jump"}));
+        QCOMPARE(log.lines, std::vector<std::string>{"reminders rebuilt: the clock jumped"});
+
+        calls.clear();
+        replanning.look();
+        QCOMPARE(calls, std::vector<std::string>{"deliver"});
+    }
+};
+
+}  // namespace kavenda
+
+QTEST_MAIN(kavenda::ReplanningTest)
+#include "ReplanningTest.moc"

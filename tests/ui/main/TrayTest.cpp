@@ -1,0 +1,110 @@
+#include "app/SingleInstance.h"
+#include "app/TrayStatus.h"
+#include "platform/AudioPlayer.h"
+#include "platform/FixedClock.h"
+#include "platform/FixedPaths.h"
+#include "platform/IcuPersianCalendar.h"
+#include "platform/ReminderSound.h"
+#include "tests/support/RecordingLog.h"
+#include "tests/support/RecordingNotificationService.h"
+#include "tests/support/TehranTime.h"
+#include "tests/support/TempFolder.h"
+
+#include <QMenu>
+#include <QSignalSpy>
+#include <QSystemTrayIcon>
+#include <QtTest>
+
+namespace kavenda {
+namespace {
+
+using test::tehran;
+
+class SilentAudio final : public AudioPlayer {
+public:
+    bool open(const std::filesystem::path&) override { return true; }
+    void play() override { playing = true; }
+    void stop() override { playing = false; }
+    bool isPlaying() const override { return playing; }
+    bool playing = false;
+};
+
+QAction* actionNamed(QMenu* menu, const QString& text)
+{
+    for (QAction* action : menu->actions())
+        if (action->text() == text)
+            return action;
+    return nullptr;
+}
+
+}  // namespace
+
+// The tray's tooltip and menu, and the hand-over of a second start, on the offscreen platform.
+class TrayTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theTooltipNamesTheNextReminderAndTheMenuStopsTheCall()
+    {
+        QSystemTrayIcon tray;
+        QMenu menu;
+        menu.addAction(QStringLiteral("نمایش"));
+        tray.setContextMenu(&menu);
+        FixedClock clock(tehran(2026, 11, 22, 14, 58));
+        IcuPersianCalendar calendar;
+        test::RecordingNotificationService notifications;
+        SilentAudio audio;
+        FixedPaths paths("/documents", "/resources");
+        test::RecordingLog log;
+        ReminderSound sound(audio, paths, log);
+
+        TrayStatus status(&tray, sound, notifications, clock, calendar);
+        QCOMPARE(tray.toolTip(), QGuiApplication::applicationDisplayName());
+
+        notifications.schedule(
+            {tehran(2026, 11, 23, 5, 20), "Asia/Tehran", "اذان صبح به افق تهران", "Ok", "3.wav", {}});
+        const NotificationRecord evening{tehran(2026, 11, 22, 17, 13), "Asia/Tehran", "اذان مغرب به افق تهران", "Ok",
+                                         "3.wav", {}};
+        notifications.schedule(evening);
+        status.refresh();
+        QCOMPARE(tray.toolTip(), QStringLiteral("اذان مغرب به افق تهران، ١٧:١٣ (٢ ساعت و ١٥ دقیقه دیگر)"));
+        clock.set(tehran(2026, 11, 22, 17, 0));
+        status.refresh();
+        QCOMPARE(tray.toolTip(), QStringLiteral("اذان مغرب به افق تهران، ١٧:١٣ (١٣ دقیقه دیگر)"));
+
+        QAction* stop = actionNamed(&menu, QStringLiteral("توقف اذان"));
+        QVERIFY(stop);
+        QCOMPARE(menu.actions().first(), stop);
+        QVERIFY(!stop->isVisible());
+        sound.play(evening);
+        emit menu.aboutToShow();
+        QVERIFY(stop->isVisible());
+        stop->trigger();
+        QVERIFY(!audio.playing);
+        QVERIFY(!stop->isVisible());
+    }
+
+    void aSecondStartOnTheSameFolderHandsOverItsWish()
+    {
+        test::TempFolder folder;
+        test::TempFolder other;
+        SingleInstance running(folder.path());
+        QVERIFY(!SingleInstance(folder.path()).handOver(false));
+        QVERIFY(running.listen());
+        QSignalSpy shows(&running, &SingleInstance::showRequested);
+
+        QVERIFY(SingleInstance(folder.path() / ".").handOver(true));
+        QTest::qWait(200);
+        QCOMPARE(shows.count(), 0);
+        QVERIFY(SingleInstance(folder.path()).handOver(false));
+        QVERIFY(shows.wait(2000));
+        QCOMPARE(shows.count(), 1);
+
+        QVERIFY(!SingleInstance(other.path()).handOver(false));
+    }
+};
+
+}  // namespace kavenda
+
+QTEST_MAIN(kavenda::TrayTest)
+#include "TrayTest.moc"
