@@ -1,5 +1,7 @@
 #include "platform/qt/DesktopNotifier.h"
 
+#include "platform/SoundFiles.h"
+
 #include <QGuiApplication>
 
 namespace kavenda {
@@ -19,7 +21,7 @@ void DesktopNotifier::notify(const NotificationRecord& record) {
     if (tray_ && QSystemTrayIcon::isSystemTrayAvailable() && QSystemTrayIcon::supportsMessages())
         tray_->showMessage(QGuiApplication::applicationDisplayName(), QString::fromStdString(record.alertBody),
                            tray_->icon(), kMessageMilliseconds);
-    if (!record.soundName.empty() && audio_.open(paths_.resourceFolder() / record.soundName))
+    if (!record.soundName.empty() && audio_.open(soundFile(paths_, record.soundName)))
         audio_.play();
 }
 

@@ -17,6 +17,8 @@ QImage mainView();
 QImage calendarButton();
 // The application icon.
 QImage appIcon(int size);
+// The frame over the occasions' time picker, the size of the picker.
+QImage pickerRound();
 
 // The first installed Persian face, else DejaVu Sans.
 QFont persianFont(int pixelSize, bool bold = false);

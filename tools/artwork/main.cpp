@@ -19,6 +19,7 @@ int main(int argc, char** argv) {
         {"MainView.png", kavenda::artwork::mainView()},
         {"calendarBtn.png", kavenda::artwork::calendarButton()},
         {"kavenda.png", kavenda::artwork::appIcon(256)},
+        {"pickerRound.png", kavenda::artwork::pickerRound()},
     };
     for (const auto& [name, image] : images) {
         if (!image.save(folder.filePath(QString::fromLatin1(name)))) {
