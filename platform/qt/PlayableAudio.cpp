@@ -11,7 +11,7 @@ namespace kavenda {
 namespace {
 
 // Loading is asynchronous; a file that neither loads nor fails by then counts as unplayable.
-constexpr int kLoadTimeoutMilliseconds = 5000;
+constexpr int kLoadTimeoutMilliseconds = 10000;
 
 bool settled(QMediaPlayer::MediaStatus status)
 {
