@@ -10,8 +10,8 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPropertyAnimation>
 #include <QSlider>
+#include <QVariantAnimation>
 #include <QVBoxLayout>
 
 namespace kavenda {
@@ -142,13 +142,17 @@ void SettingController::showSliderRow(int index, bool shown, bool animated)
     }
     // The row comes down from under its switch.
     row->setGraphicsEffect(nullptr);
+    row->setFixedHeight(kRowHeight);
     row->show();
     if (!animated)
         return;
-    auto* slide = new QPropertyAnimation(row, "maximumHeight", row);
+    row->setFixedHeight(0);
+    auto* slide = new QVariantAnimation(row);
     slide->setDuration(kSlideMilliseconds);
     slide->setStartValue(0);
     slide->setEndValue(kRowHeight);
+    connect(slide, &QVariantAnimation::valueChanged, row,
+            [row](const QVariant& height) { row->setFixedHeight(height.toInt()); });
     slide->start(QAbstractAnimation::DeleteWhenStopped);
 }
 

@@ -77,6 +77,8 @@ void SoundsViewController::buildRows()
         choice_.cellForRow(row);
     }
     showCheckmark();
+    if (const std::optional<int> stored = choice_.selectedPath())
+        layout_->tbl->scrollToItem(layout_->tbl->item(*stored));
 }
 
 void SoundsViewController::showCheckmark()

@@ -81,6 +81,12 @@ struct Preferences : RecordedServices, OptionsFixture {
     std::filesystem::path documents() const { return paths->documentsFolder(); }
 };
 
+// The other tests run without transitions, so that a change is complete at once.
+struct AnimationsOn {
+    AnimationsOn() { setAnimationsEnabled(true); }
+    ~AnimationsOn() { setAnimationsEnabled(false); }
+};
+
 void clickRow(QListWidget* list, int row)
 {
     list->scrollToItem(list->item(row));
@@ -184,6 +190,29 @@ private slots:
         QVERIFY(!screen->sliderRow(2)->isVisible());
         click(screen->saveButton());
         QCOMPARE(f.setting("Item5"), std::string("0"));
+    }
+
+    void sliderRowsAndThePickerComeAndGoWithTheirAnimations()
+    {
+        Preferences f;
+        const AnimationsOn animated;
+        auto* settings = f.showTab<SettingController>(1);
+        click(settings->switchOf(4));
+        QVERIFY(settings->sliderRow(1)->isVisible());
+        QVERIFY2(settings->sliderRow(1)->maximumHeight() < 44, "still coming down");
+        QTRY_COMPARE(settings->sliderRow(1)->maximumHeight(), 44);
+        click(settings->switchOf(4));
+        QVERIFY2(settings->sliderRow(1)->isVisible(), "still fading");
+        QTRY_VERIFY(!settings->sliderRow(1)->isVisible());
+
+        auto* occasions = f.showTab<HistoryViewController>(3);
+        click(occasions->switchOn());
+        QVERIFY(occasions->picker()->isVisible());
+        QTest::qWait(HistoryViewController::fadeMilliseconds + 100);
+        click(occasions->switchOn());
+        QVERIFY(!occasions->picker()->isEnabled());
+        QVERIFY2(occasions->picker()->isVisible(), "still fading");
+        QTRY_VERIFY(!occasions->picker()->isVisible());
     }
 
     void soundRowsPreviewStopAndSave()
