@@ -3,6 +3,7 @@
 #include "platform/AudioPlayer.h"
 #include "platform/Log.h"
 #include "platform/Paths.h"
+#include "platform/SoundFiles.h"
 
 namespace kavenda {
 
@@ -14,7 +15,7 @@ ReminderSound::ReminderSound(AudioPlayer& audio, const Paths& paths, Log& log)
 int ReminderSound::play(const NotificationRecord& record)
 {
     stop();
-    if (record.soundName.empty() || !audio_.open(paths_.resourceFolder() / record.soundName)) {
+    if (record.soundName.empty() || !audio_.open(soundFile(paths_, record.soundName))) {
         current_ = 0;
         return 0;
     }

@@ -22,6 +22,8 @@ QImage calendarBackground();
 QImage dayHasEvent();
 QImage daySelected(bool withEvent);
 QImage dayToday();
+// The frame over the occasions' time picker, the size of the picker.
+QImage pickerRound();
 
 // The first installed Persian face, else DejaVu Sans.
 QFont persianFont(int pixelSize, bool bold = false);

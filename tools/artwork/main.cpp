@@ -34,6 +34,7 @@ int main(int argc, char** argv) {
         {"selectedWithEvent.png", kavenda::artwork::daySelected(true)},
         {"selected.png", kavenda::artwork::daySelected(false)},
         {"today.png", kavenda::artwork::dayToday()},
+        {"pickerRound.png", kavenda::artwork::pickerRound()},
     };
     for (const auto& [name, image] : images) {
         if (!image.save(folder.filePath(QString::fromLatin1(name)))) {

@@ -1,0 +1,10 @@
+#pragma once
+
+#include <filesystem>
+
+namespace kavenda {
+
+// True when the media machinery opens the file and finds a sound in it; waits for it to say so.
+bool isPlayableAudio(const std::filesystem::path& file);
+
+}  // namespace kavenda

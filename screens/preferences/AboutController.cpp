@@ -1,0 +1,50 @@
+#include "screens/preferences/AboutController.h"
+
+#include "ui_AboutController.h"
+
+#include <QListWidget>
+
+#include <utility>
+
+namespace kavenda {
+
+namespace {
+
+constexpr int kRowHeight = 44;
+
+}  // namespace
+
+AboutController::AboutController(AboutRows rows, UrlOpener* urls, QWidget* parent)
+    : QWidget(parent), layout_(std::make_unique<::Ui::AboutController>()), rows_(std::move(rows)), urls_(urls)
+{
+    layout_->setupUi(this);
+    for (int row = 0; row < AboutRows::rowCount; ++row) {
+        const QString text = QString::fromStdString(rows_.text(row));
+        auto* item = new QListWidgetItem(text, layout_->tbl);
+        item->setSizeHint(QSize(0, kRowHeight));
+        item->setData(Qt::AccessibleTextRole, text.simplified());
+        item->setTextAlignment(AboutRows::isCentred(row) ? Qt::AlignCenter
+                                                         : Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
+        if (!AboutRows::highlightsOnTap(row))
+            item->setFlags(Qt::ItemIsEnabled);
+    }
+    layout_->tbl->setFixedHeight(kRowHeight * AboutRows::rowCount);
+    connect(layout_->tbl, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { didSelectRow(layout_->tbl->row(item)); });
+}
+
+AboutController::~AboutController() = default;
+
+QListWidget* AboutController::tbl() const
+{
+    return layout_->tbl;
+}
+
+void AboutController::didSelectRow(int row)
+{
+    layout_->tbl->clearSelection();
+    if (urls_)
+        rows_.didSelectRow(row, *urls_);
+}
+
+}  // namespace kavenda

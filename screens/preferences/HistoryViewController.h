@@ -1,0 +1,52 @@
+#pragma once
+
+#include "screens/preferences/OccasionTime.h"
+
+#include <QPointer>
+#include <QPushButton>
+#include <QWidget>
+
+#include <memory>
+
+class QTimeEdit;
+
+namespace Ui {
+class HistoryViewController;
+}
+
+namespace kavenda {
+
+class Log;
+class MyDB;
+class Paths;
+class ToggleSwitch;
+
+// Whether the coming occasions are announced, and at what time of day.
+class HistoryViewController : public QWidget {
+    Q_OBJECT
+
+public:
+    static constexpr int fadeMilliseconds = 500;
+
+    // The picker's frame image comes from the resource folder.
+    HistoryViewController(MyDB& db, const Paths& paths, Log* log, QWidget* parent = nullptr);
+    ~HistoryViewController() override;
+
+    const OccasionTime& occasionTime() const { return occasionTime_; }
+    QTimeEdit* picker() const;
+    ToggleSwitch* switchOn() const;
+    QPushButton* saveButton() const { return saveButton_; }
+
+    void valueChanged(bool on);
+    void pickerValueChanged();
+    void save();
+
+private:
+    void showPicker(bool on, bool animated);
+
+    std::unique_ptr<::Ui::HistoryViewController> layout_;
+    OccasionTime occasionTime_;
+    QPointer<QPushButton> saveButton_;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,17 @@
+#include "screens/preferences/SaveButton.h"
+
+#include <QPushButton>
+
+namespace kavenda {
+
+QPushButton* makeSaveButton(QWidget* parent)
+{
+    auto* button = new QPushButton(QStringLiteral("ذخیره"), parent);
+    button->setAccessibleName(button->text());
+    button->setDefault(true);
+    button->setEnabled(false);
+    button->hide();
+    return button;
+}
+
+}  // namespace kavenda

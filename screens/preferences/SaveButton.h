@@ -1,0 +1,11 @@
+#pragma once
+
+class QPushButton;
+class QWidget;
+
+namespace kavenda {
+
+// The "ذخیره" button of a preference screen's bar: disabled until there is something to save.
+QPushButton* makeSaveButton(QWidget* parent);
+
+}  // namespace kavenda

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "screens/preferences/ReminderSettings.h"
+
+#include <QPointer>
+#include <QPushButton>
+#include <QWidget>
+
+#include <array>
+#include <memory>
+
+class QLabel;
+class QSlider;
+
+namespace Ui {
+class SettingController;
+}
+
+namespace kavenda {
+
+class MyDB;
+class ToggleSwitch;
+
+// Which calls are announced and how long before sunrise, suhur and iftar the warnings come;
+// nothing is written before Save.
+class SettingController : public QWidget {
+    Q_OBJECT
+
+public:
+    explicit SettingController(MyDB& db, QWidget* parent = nullptr);
+    ~SettingController() override;
+
+    const ReminderSettings& settings() const { return settings_; }
+    QPushButton* saveButton() const { return saveButton_; }
+    ToggleSwitch* switchOf(int item) const { return switches_.at(item); }
+    // The warning's slider row (index = item − 3), shown while its switch is on.
+    QWidget* sliderRow(int index) const { return sliderRows_.at(index); }
+    QSlider* slider(int index) const { return sliders_.at(index); }
+    QLabel* number(int index) const { return numbers_.at(index); }
+
+    void valueChanged(int item, bool on);
+    void sliderChanged(int index, int position);
+    void save();
+
+private:
+    static constexpr int warningCount = ReminderSettings::itemCount - ReminderSettings::firstWarning;
+
+    QWidget* makeSwitchRow(int item, QWidget* parent);
+    QWidget* makeSliderRow(int index, QWidget* parent);
+    void showSliderRow(int index, bool shown, bool animated);
+    void updateSliderName(int index);
+
+    std::unique_ptr<::Ui::SettingController> layout_;
+    ReminderSettings settings_;
+    // Owned by the navigation stack once shown in its bar.
+    QPointer<QPushButton> saveButton_;
+    std::array<ToggleSwitch*, ReminderSettings::itemCount> switches_{};
+    std::array<QWidget*, warningCount> sliderRows_{};
+    std::array<QSlider*, warningCount> sliders_{};
+    std::array<QLabel*, warningCount> numbers_{};
+};
+
+}  // namespace kavenda

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "screens/preferences/SoundChoice.h"
+
+#include <QFileDialog>
+#include <QPointer>
+#include <QPushButton>
+#include <QWidget>
+
+#include <memory>
+
+class QListWidget;
+
+namespace Ui {
+class SoundsViewController;
+}
+
+namespace kavenda {
+
+class Alerts;
+class AudioPlayer;
+class MyDB;
+class Paths;
+
+// The recording of the calls to prayer: a tap previews a row, Save stores the checked one,
+// and a person may put their own recording in place of a row's.
+class SoundsViewController : public QWidget {
+    Q_OBJECT
+
+public:
+    // Without an audio player there are no previews; without alerts a refusal is not shown.
+    SoundsViewController(MyDB& db, const Paths& paths, AudioPlayer* audio, Alerts* alerts,
+                         QWidget* parent = nullptr);
+    ~SoundsViewController() override;
+
+    const SoundChoice& choice() const { return choice_; }
+    QListWidget* tbl() const;
+    QPushButton* saveButton() const { return saveButton_; }
+    QPushButton* ownFileButton() const;
+    // The file dialog of "انتخاب فایل…" while it is open.
+    QFileDialog* fileDialog() const { return fileDialog_; }
+
+    void didSelectRow(int row);
+    void save();
+    // Puts the file in place of the checked row's recording, or says why not.
+    void useOwnRecording(const QString& file);
+
+protected:
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    void buildRows();
+    void showCheckmark();
+    void chooseOwnFile();
+
+    std::unique_ptr<::Ui::SoundsViewController> layout_;
+    SoundChoice choice_;
+    Alerts* alerts_;
+    QPointer<QPushButton> saveButton_;
+    QPointer<QFileDialog> fileDialog_;
+};
+
+}  // namespace kavenda

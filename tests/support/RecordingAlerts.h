@@ -1,0 +1,16 @@
+#pragma once
+
+#include "platform/Alerts.h"
+
+#include <string>
+#include <vector>
+
+namespace kavenda::test {
+
+class RecordingAlerts final : public Alerts {
+public:
+    void show(const std::string&, const std::string& message, const std::string&) override { messages.push_back(message); }
+    std::vector<std::string> messages;
+};
+
+}  // namespace kavenda::test

@@ -1,0 +1,378 @@
+#include "app/PersianFont.h"
+#include "platform/FixedPaths.h"
+#include "platform/Platform.h"
+#include "platform/qt/Animations.h"
+#include "platform/qt/NavigationStack.h"
+#include "platform/qt/ToggleSwitch.h"
+#include "screens/cities/CustomUITabBarController.h"
+#include "screens/cities/SelectionController.h"
+#include "screens/preferences/AboutController.h"
+#include "screens/preferences/HistoryViewController.h"
+#include "screens/preferences/SettingController.h"
+#include "screens/preferences/SoundsViewController.h"
+#include "tests/support/RecordingAlerts.h"
+#include "tests/support/RecordingAudioPlayer.h"
+#include "tests/support/RecordingLog.h"
+#include "tests/support/RecordingUrlOpener.h"
+#include "tests/ui/cities/OptionsFixture.h"
+
+#include <QFileDialog>
+#include <QLabel>
+#include <QListWidget>
+#include <QSlider>
+#include <QTimeEdit>
+#include <QToolButton>
+#include <QtTest>
+
+#include <algorithm>
+#include <ctime>
+#include <fstream>
+#include <optional>
+
+namespace kavenda {
+namespace {
+
+using test::OptionsFixture;
+using Calls = std::vector<std::string>;
+
+constexpr int tehran = 32;
+// The media machinery opens a file in the background, slowly on a busy machine.
+constexpr int mediaTimeout = 30'000;
+const std::filesystem::path shippedResources = KAVENDA_RESOURCE_DIR;
+
+// What the preference tabs are handed, recorded; it outlives the screens that use it.
+struct RecordedServices {
+    test::RecordingAudioPlayer audio;
+    test::RecordingUrlOpener urls;
+    test::RecordingAlerts alerts;
+    test::RecordingLog log;
+    std::optional<FixedPaths> paths;
+};
+
+// The options on a fixture database with these cities chosen and these settings stored.
+struct Preferences : RecordedServices, OptionsFixture {
+    explicit Preferences(std::initializer_list<int> chosen = {tehran}, const std::string& settings = "")
+    {
+        choose(chosen);
+        if (!settings.empty())
+            QVERIFY(db().ExecuteNonQuery("UPDATE tSetting SET " + settings));
+        paths.emplace(std::filesystem::path(db().dbPath()).parent_path(), shippedResources);
+        Platform::install({nullptr, nullptr, &*paths, &log, nullptr, nullptr, &audio, &urls, &alerts, nullptr});
+        open();
+    }
+    ~Preferences() override { Platform::install(Platform{}); }
+
+    template <typename Screen>
+    Screen* showTab(int index)
+    {
+        QTest::mouseClick(tabs()->tabButton(index), Qt::LeftButton);
+        if (tabs()->currentIndex() != index)
+            return nullptr;
+        return tabs()->page(index)->findChild<Screen*>();
+    }
+
+    NavigationStack* stackOf(int index) const { return qobject_cast<NavigationStack*>(tabs()->page(index)); }
+
+    std::string setting(const std::string& column)
+    {
+        return db().ExecuteScaler("SELECT " + column + " FROM tSetting").value_or("<none>");
+    }
+
+    std::filesystem::path documents() const { return paths->documentsFolder(); }
+};
+
+// The other tests run without transitions, so that a change is complete at once.
+struct AnimationsOn {
+    AnimationsOn() { setAnimationsEnabled(true); }
+    ~AnimationsOn() { setAnimationsEnabled(false); }
+};
+
+void clickRow(QListWidget* list, int row)
+{
+    list->scrollToItem(list->item(row));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+}
+
+void click(QWidget* widget)
+{
+    QVERIFY(widget->isVisible());
+    QTest::mouseClick(widget, Qt::LeftButton);
+}
+
+// Names the file in the dialog and presses Enter, as a person would.
+void pickFile(QFileDialog* dialog, const std::filesystem::path& file)
+{
+    dialog->selectFile(QString::fromStdString(file.string()));
+    QTest::keyClick(dialog, Qt::Key_Return);
+}
+
+std::string wav(int number)
+{
+    return (shippedResources / (std::to_string(number) + ".wav")).string();
+}
+
+}  // namespace
+
+class PreferencesScreensTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase()
+    {
+        setAnimationsEnabled(false);
+        usePersianFont();
+    }
+
+    void eachTabHasItsStackTitleAndSaveOnTheRight()
+    {
+        Preferences f;
+        const QStringList titles = {"تنظیمات", "اذان", "مناسبت ها", "درباره ما"};
+        for (int tab = 1; tab <= 4; ++tab) {
+            QTest::mouseClick(f.tabs()->tabButton(tab), Qt::LeftButton);
+            QCOMPARE(f.tabs()->currentIndex(), tab);
+            QCOMPARE(f.stackOf(tab)->title(), titles[tab - 1]);
+            QCOMPARE(f.stackOf(tab)->count(), 1);
+            const auto saves = f.stackOf(tab)->findChildren<QPushButton*>();
+            const auto save = std::find_if(saves.begin(), saves.end(),
+                                           [](QPushButton* b) { return b->text() == QStringLiteral("ذخیره"); });
+            if (tab == 4) {
+                QVERIFY(save == saves.end());
+                continue;
+            }
+            QVERIFY(save != saves.end());
+            QVERIFY((*save)->isVisible());
+            QVERIFY(!(*save)->isEnabled());
+            QCOMPARE((*save)->accessibleName(), QStringLiteral("ذخیره"));
+            QVERIFY2((*save)->mapTo(f.stackOf(tab), QPoint()).x() > 160, "on the right of the bar");
+        }
+    }
+
+    void withoutACityOnlyTheAboutTabOfThePreferencesOpens()
+    {
+        Preferences f({});
+        QTRY_VERIFY(f.search());
+        for (int tab = 1; tab <= 3; ++tab)
+            QVERIFY(!f.tabs()->isTabEnabled(tab));
+        QVERIFY(f.showTab<AboutController>(4));
+    }
+
+    void settingsSwitchesAndSlidersAreSavedAsShown()
+    {
+        Preferences f({tehran}, "Item3 = 15");
+        auto* screen = f.showTab<SettingController>(1);
+        QVERIFY(screen);
+        QVERIFY(screen->sliderRow(0)->isVisible());
+        QCOMPARE(screen->number(0)->text(), QStringLiteral("١٥"));
+        QCOMPARE(screen->slider(0)->value(), 2);
+        QVERIFY(!screen->sliderRow(2)->isVisible());
+        QCOMPARE(screen->switchOf(5)->accessibleName(), QStringLiteral("وقت افطار"));
+        QVERIFY(screen->switchOf(5)->isCheckable());
+
+        click(screen->switchOf(1));
+        QVERIFY(screen->saveButton()->isEnabled());
+        click(screen->switchOf(5));
+        QVERIFY(screen->switchOf(5)->isChecked());
+        QVERIFY(screen->sliderRow(2)->isVisible());
+        QTest::keyClick(screen->slider(2), Qt::Key_End);
+        QCOMPARE(screen->number(2)->text(), QStringLiteral("٦٠"));
+        QVERIFY(screen->slider(2)->accessibleName().contains(QStringLiteral("60")));
+        QTest::keyClick(screen->slider(0), Qt::Key_Home);
+        QCOMPARE(screen->number(0)->text(), QStringLiteral("٥"));
+        f.saveScreenshot(QStringLiteral("preferences-settings.png"));
+
+        click(screen->saveButton());
+        QVERIFY(!screen->saveButton()->isEnabled());
+        QCOMPARE(f.setting("Item0 || ',' || Item1 || ',' || Item2 || ',' || Item3 || ',' || Item4 || ',' || Item5"),
+                 std::string("1,0,1,5,0,60"));
+        QVERIFY(screen->switchOf(5)->isChecked());
+
+        click(screen->switchOf(5));
+        QVERIFY(!screen->sliderRow(2)->isVisible());
+        click(screen->saveButton());
+        QCOMPARE(f.setting("Item5"), std::string("0"));
+    }
+
+    void sliderRowsAndThePickerComeAndGoWithTheirAnimations()
+    {
+        Preferences f;
+        const AnimationsOn animated;
+        auto* settings = f.showTab<SettingController>(1);
+        click(settings->switchOf(4));
+        QVERIFY(settings->sliderRow(1)->isVisible());
+        QVERIFY2(settings->sliderRow(1)->maximumHeight() < 44, "still coming down");
+        QTRY_COMPARE(settings->sliderRow(1)->maximumHeight(), 44);
+        click(settings->switchOf(4));
+        QVERIFY2(settings->sliderRow(1)->isVisible(), "still fading");
+        QTRY_VERIFY(!settings->sliderRow(1)->isVisible());
+
+        auto* occasions = f.showTab<HistoryViewController>(3);
+        click(occasions->switchOn());
+        QVERIFY(occasions->picker()->isVisible());
+        QTest::qWait(HistoryViewController::fadeMilliseconds + 100);
+        click(occasions->switchOn());
+        QVERIFY(!occasions->picker()->isEnabled());
+        QVERIFY2(occasions->picker()->isVisible(), "still fading");
+        QTRY_VERIFY(!occasions->picker()->isVisible());
+    }
+
+    void soundRowsPreviewStopAndSave()
+    {
+        Preferences f;
+        auto* screen = f.showTab<SoundsViewController>(2);
+        QVERIFY(screen);
+        QListWidget* list = screen->tbl();
+        QCOMPARE(list->count(), 11);
+        QCOMPARE(list->item(7)->data(Qt::AccessibleTextRole).toString(), QStringLiteral("اذان مدینه"));
+        QCOMPARE(screen->choice().selectedPath(), std::optional<int>(0));
+
+        clickRow(list, 7);
+        QCOMPARE(f.audio.calls, (Calls{"open " + wav(7), "play"}));
+        QVERIFY(screen->saveButton()->isEnabled());
+        clickRow(list, 9);
+        QCOMPARE(f.audio.calls, (Calls{"open " + wav(7), "play", "stop", "open " + wav(9)}));
+        clickRow(list, 8);
+        f.saveScreenshot(QStringLiteral("preferences-sounds.png"));
+        f.audio.calls.clear();
+        QVERIFY(f.showTab<HistoryViewController>(3));
+        // Leaving the tab stops the preview.
+        QCOMPARE(f.audio.calls, (Calls{"stop"}));
+
+        auto* again = f.showTab<SoundsViewController>(2);
+        QCOMPARE(again, screen);
+        QVERIFY2(screen->saveButton()->isEnabled(), "the unsaved choice stays");
+        click(screen->saveButton());
+        QCOMPARE(f.setting("Item6"), std::string("8"));
+        QVERIFY(!screen->saveButton()->isEnabled());
+    }
+
+    void anOwnRecordingIsCheckedCopiedAndPlayedFromThenOn()
+    {
+        Preferences f;
+        auto* screen = f.showTab<SoundsViewController>(2);
+        QVERIFY(screen);
+        clickRow(screen->tbl(), 9);
+        QVERIFY2(!screen->ownFileButton()->isEnabled(), "the random row has no recording of its own");
+        clickRow(screen->tbl(), 3);
+        const auto own = f.documents() / "sounds" / "3.wav";
+
+        const auto text = f.documents() / "notes.wav";
+        std::ofstream(text) << "no sound in here";
+        click(screen->ownFileButton());
+        QTRY_VERIFY(screen->fileDialog());
+        pickFile(screen->fileDialog(), text);
+        QTRY_COMPARE_WITH_TIMEOUT(f.alerts.messages.size(), std::size_t{1}, mediaTimeout);
+        QVERIFY(QString::fromStdString(f.alerts.messages[0]).contains(QStringLiteral("notes.wav")));
+        QVERIFY(!std::filesystem::exists(own));
+
+        f.audio.calls.clear();
+        click(screen->ownFileButton());
+        QTRY_VERIFY(screen->fileDialog());
+        pickFile(screen->fileDialog(), wav(11));
+        QTRY_VERIFY_WITH_TIMEOUT(std::filesystem::exists(own), mediaTimeout);
+        QCOMPARE(f.alerts.messages.size(), std::size_t{1});
+        QCOMPARE(std::filesystem::file_size(own), std::filesystem::file_size(wav(11)));
+        QCOMPARE(f.audio.calls.back(), std::string("play"));
+        QVERIFY(std::find(f.audio.calls.begin(), f.audio.calls.end(), "open " + own.string()) != f.audio.calls.end());
+    }
+
+    void occasionsSwitchShowsThePickerAndSavesTheTime()
+    {
+        Preferences f;
+        auto* screen = f.showTab<HistoryViewController>(3);
+        QVERIFY(screen);
+        QTimeEdit* picker = screen->picker();
+        QVERIFY(!picker->isVisible());
+        QVERIFY(!picker->isEnabled());
+        QCOMPARE(picker->time(), QTime(8, 0));
+        QCOMPARE(screen->switchOn()->accessibleName(), QStringLiteral("تقویم تاریخ"));
+
+        click(screen->switchOn());
+        QVERIFY(picker->isVisible());
+        QVERIFY(picker->isEnabled());
+        QVERIFY(screen->saveButton()->isEnabled());
+        f.saveScreenshot(QStringLiteral("preferences-occasions.png"));
+        click(screen->saveButton());
+        QCOMPARE(f.setting("Item7"), std::string("08:00"));
+        QCOMPARE(f.log.lines, (std::vector<std::string>{"08:00"}));
+        QVERIFY(!screen->saveButton()->isEnabled());
+
+        picker->setFocus();
+        QTest::keyClick(picker, Qt::Key_Up);
+        QCOMPARE(picker->time(), QTime(9, 0));
+        QVERIFY(screen->saveButton()->isEnabled());
+        QTest::keyClick(picker, Qt::Key_Down);
+        QVERIFY2(!screen->saveButton()->isEnabled(), "back at the stored time");
+
+        click(screen->switchOn());
+        QVERIFY(!picker->isVisible());
+        click(screen->saveButton());
+        QCOMPARE(f.setting("Item7"), std::string("0"));
+    }
+
+    void aboutRowsOpenMailOrTheSiteAndWriteNothing()
+    {
+        Preferences f;
+        const std::string before = f.setting("Item0||Item1||Item2||Item3||Item4||Item5||Item6||Item7");
+        auto* screen = f.showTab<AboutController>(4);
+        QVERIFY(screen);
+        QCOMPARE(screen->tbl()->item(0)->text(), QStringLiteral("تیم کاوندا"));
+        f.saveScreenshot(QStringLiteral("preferences-about.png"));
+        for (int row = 0; row < 5; ++row)
+            clickRow(screen->tbl(), row);
+        const std::string mail = "mailto:?to=" KAVENDA_SUPPORT_EMAIL "&subject=KavendaV1.5";
+        QCOMPARE(f.urls.opened, (std::vector<std::string>{mail, mail, mail, mail, KAVENDA_HOMEPAGE}));
+        QCOMPARE(f.setting("Item0||Item1||Item2||Item3||Item4||Item5||Item6||Item7"), before);
+    }
+
+    void savedChoicesReachTheRemindersOnDone()
+    {
+        Preferences f;
+        auto* settings = f.showTab<SettingController>(1);
+        click(settings->switchOf(5));
+        click(settings->saveButton());
+        auto* sounds = f.showTab<SoundsViewController>(2);
+        clickRow(sounds->tbl(), 7);
+        click(sounds->saveButton());
+        auto* occasions = f.showTab<HistoryViewController>(3);
+        click(occasions->switchOn());
+        click(occasions->saveButton());
+        QTest::mouseClick(f.tabs()->tabButton(0), Qt::LeftButton);
+        click(f.selection()->btnDone());
+        QCOMPARE(f.pendingAtClose.size(), 1);
+
+        int calls = 0, iftar = 0, occasionCount = 0;
+        for (const NotificationRecord& record : f.notifications.records) {
+            if (record.alertBody.rfind("اذان ", 0) == 0) {
+                ++calls;
+                QCOMPARE(record.soundName, std::string("7.wav"));
+            } else if (record.soundName == "12.wav") {
+                ++iftar;
+                // Five minutes before the evening call of the same day.
+                const auto call = std::find_if(f.notifications.records.begin(), f.notifications.records.end(),
+                                               [&record](const NotificationRecord& other) {
+                                                   return other.alertBody.rfind("اذان مغرب", 0) == 0
+                                                       && other.fireDate == record.fireDate + std::chrono::minutes(5);
+                                               });
+                QVERIFY(call != f.notifications.records.end());
+            } else if (record.soundName == "times.wav") {
+                ++occasionCount;
+                const std::time_t at = record.fireDate.time_since_epoch().count();
+                std::tm local{};
+                localtime_r(&at, &local);
+                QCOMPARE(local.tm_hour * 60 + local.tm_min, 8 * 60);
+            }
+        }
+        QVERIFY(calls > 0);
+        QVERIFY(iftar > 0);
+        QVERIFY(occasionCount > 0);
+        // The saved database, for a person to rebuild the reminders from with --reminders.
+        const std::filesystem::path kept = KAVENDA_SCREENSHOT_DIR "/preferences-done";
+        std::filesystem::create_directories(kept);
+        std::filesystem::copy_file(f.db().dbPath(), kept / "Icons", std::filesystem::copy_options::overwrite_existing);
+    }
+};
+
+}  // namespace kavenda
+
+QTEST_MAIN(kavenda::PreferencesScreensTest)
+#include "PreferencesScreensTest.moc"

@@ -1,0 +1,47 @@
+#include "screens/preferences/AboutRows.h"
+
+#include "tests/support/RecordingUrlOpener.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace kavenda {
+namespace {
+
+TEST(AboutRowsTest, RowsReadLetterForLetter)
+{
+    const AboutRows rows("https://example.net/k", "help@example.net");
+    EXPECT_EQ(rows.text(0), "تیم کاوندا");
+    EXPECT_EQ(rows.text(1), "فروردین ۹۲");
+    EXPECT_EQ(rows.text(2), "نسخه :                                         ۱.۶");
+    EXPECT_EQ(rows.text(3), "پست الکترونیک :           help@example.net");
+    EXPECT_EQ(rows.text(4), "وب سایت :                  https://example.net/k");
+    EXPECT_EQ(rows.text(5), "");
+    for (int row = 0; row < AboutRows::rowCount; ++row) {
+        EXPECT_EQ(AboutRows::isCentred(row), row < 2) << row;
+        EXPECT_EQ(AboutRows::highlightsOnTap(row), row >= 3) << row;
+    }
+}
+
+TEST(AboutRowsTest, TheWebRowOpensTheSiteAndEveryOtherRowAMail)
+{
+    const AboutRows rows("https://example.net/k", "help@example.net");
+    test::RecordingUrlOpener urls;
+    for (int row = 0; row <= AboutRows::rowCount; ++row)
+        rows.didSelectRow(row, urls);
+    const std::string mail = "mailto:?to=help@example.net&subject=KavendaV1.5";
+    EXPECT_EQ(urls.opened, (std::vector<std::string>{mail, mail, mail, mail, "https://example.net/k"}))
+        << "a row past the end opens nothing";
+}
+
+TEST(AboutRowsTest, TheShippedAddressesAreTheBuildsOwn)
+{
+    const AboutRows rows = AboutRows::shipped();
+    EXPECT_EQ(rows.address(4), KAVENDA_HOMEPAGE);
+    EXPECT_EQ(rows.address(3), "mailto:?to=" KAVENDA_SUPPORT_EMAIL "&subject=KavendaV1.5");
+    EXPECT_NE(rows.text(4).find(KAVENDA_HOMEPAGE), std::string::npos);
+}
+
+}  // namespace
+}  // namespace kavenda
