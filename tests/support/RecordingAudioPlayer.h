@@ -13,12 +13,24 @@ public:
     bool open(const std::filesystem::path& file) override
     {
         calls.push_back("open " + file.string());
+        playing = false;
         return std::filesystem::is_regular_file(file);
     }
-    void play() override { calls.push_back("play"); }
-    void stop() override { calls.push_back("stop"); }
+    void play() override
+    {
+        calls.push_back("play");
+        playing = true;
+    }
+    void stop() override
+    {
+        calls.push_back("stop");
+        playing = false;
+    }
+    bool isPlaying() const override { return playing; }
 
     std::vector<std::string> calls;
+    // Until stopped or opened again; a test ends a sound by clearing it.
+    bool playing = false;
 };
 
 }  // namespace kavenda::test
