@@ -64,7 +64,6 @@ signals:
 
 protected:
     void showEvent(QShowEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void viewDidLoad();
@@ -79,6 +78,9 @@ private:
     Pager* scrollView_ = nullptr;
     PageIndicator* pageControl_ = nullptr;
     bool appeared_ = false;
+    // What the pages on show were made from.
+    RowSet boundRows_;
+    std::string boundDate_;
 };
 
 }  // namespace kavenda
