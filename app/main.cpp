@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/PersianFont.h"
+#include "app/PersianQtTexts.h"
 #include "app/ReminderList.h"
 #include "data/MyDB.h"
 #include "platform/DeviceRandom.h"
@@ -101,7 +102,8 @@ int main(int argc, char** argv)
     }
 
     usePersianFont();
-    QApplication::setApplicationDisplayName(QStringLiteral("Kavenda"));
+    usePersianQtTexts();
+    QApplication::setApplicationDisplayName(QStringLiteral("کاوندا"));
     QApplication::setWindowIcon(QIcon(QString::fromStdString((paths.resourceFolder() / "kavenda.png").string())));
 
     DesktopNotifier notifier(audio, paths);
