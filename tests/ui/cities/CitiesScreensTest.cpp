@@ -403,8 +403,17 @@ private slots:
         QVERIFY(childNames(selection->createNewCityTable()).contains(QStringLiteral("ایجاد شهر جدید")));
         const QStringList tabs{QStringLiteral("شهرها"), QStringLiteral("تنظیمات"), QStringLiteral("اذان"),
                                QStringLiteral("مناسبت ها"), QStringLiteral("درباره ما")};
-        for (int tab = 0; tab < tabs.size(); ++tab)
-            QCOMPARE(accessibleName(f.tabs()->tabButton(tab)), tabs[tab]);
+        for (int tab = 0; tab < tabs.size(); ++tab) {
+            QAccessibleInterface* face = QAccessible::queryAccessibleInterface(f.tabs()->tabButton(tab));
+            QCOMPARE(face->role(), QAccessible::PageTab);
+            QCOMPARE(face->text(QAccessible::Name), tabs[tab]);
+            QCOMPARE(face->state().selected, tab == 0);
+            QCOMPARE(face->state().disabled, false);
+        }
+        QAccessible::queryAccessibleInterface(f.tabs()->tabButton(4))->actionInterface()->doAction(
+            QAccessibleActionInterface::pressAction());
+        QCOMPARE(f.tabs()->currentIndex(), 4);
+        QTest::mouseClick(f.tabs()->tabButton(0), Qt::LeftButton);
 
         QTest::mouseClick(selection->btnSearch(), Qt::LeftButton);
         QVERIFY(f.search());
