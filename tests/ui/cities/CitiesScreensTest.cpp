@@ -315,6 +315,32 @@ private slots:
         QCOMPARE(f.selection()->createNewCityTable()->geometry(), QRect(4, 319, 312, 43));
     }
 
+    // Without a pointer: Delete asks and removes, Ctrl with an arrow moves a row.
+    void theKeyboardRemovesAndMovesRows()
+    {
+        OptionsFixture f;
+        f.choose({tehran, isfahan, kerman});
+        f.open();
+        EditableCityList* list = f.selection()->tbl();
+        list->setFocus();
+        list->setCurrentRow(2);
+        QTest::keyClick(list, Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(f.orderings(), (QStringList{"32:0", "35:1", "33:2"}));
+        QCOMPARE(list->currentRow(), 1);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(list->confirmingRow(), 1);
+        QTest::keyClick(list, Qt::Key_Escape);
+        QCOMPARE(list->confirmingRow(), -1);
+        QCOMPARE(list->count(), 3);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(f.listedNames(), (QStringList{QStringLiteral("تهران (تهران)"), QStringLiteral("اصفهان (اصفهان)")}));
+        QCOMPARE(list->currentRow(), 1);
+        QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));  // a removal renumbers nothing
+        QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);  // already the last row
+        QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));
+    }
+
     // More rows than the holder shows: its bar stands beside the rows' controls, not over them.
     void aLongListScrollsBesideItsRows()
     {
