@@ -68,6 +68,8 @@ QLabel* CustomUIImageView::addLabel(const Frame& frame, Qt::Alignment alignment,
     shadow->setOffset(-1, shadowDown);
     shadow->setBlurRadius(0);
     label->setGraphicsEffect(shadow);
+    // Nothing to show is nothing for a screen reader to stop at either.
+    label->setHidden(text.empty());
     return label;
 }
 
