@@ -136,12 +136,20 @@ void AppDelegate::enterBackground()
     applicationDidEnterBackground();
 }
 
+// The window shown at launch, or shown again from the tray or a minimise. Becoming active
+// follows once the show is done, as a phone delivers it after the launch or the return.
 void AppDelegate::enterForeground()
 {
-    if (!inBackground_)
+    if (!window_->isVisible() || (!inBackground_ && launched_))
         return;
+    if (inBackground_)
+        applicationWillEnterForeground();
     inBackground_ = false;
-    applicationWillEnterForeground();
+    launched_ = true;
+    QMetaObject::invokeMethod(this, [this] {
+        if (!inBackground_)
+            applicationDidBecomeActive();
+    }, Qt::QueuedConnection);
 }
 
 bool AppDelegate::eventFilter(QObject* watched, QEvent* event)
@@ -170,9 +178,9 @@ bool AppDelegate::eventFilter(QObject* watched, QEvent* event)
         else
             enterForeground();
         break;
+    // A focus change is no life event: it only decides how a reminder shows.
     case QEvent::WindowActivate:
         active_ = true;
-        applicationDidBecomeActive();
         break;
     case QEvent::WindowDeactivate:
         active_ = false;

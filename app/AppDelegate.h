@@ -18,8 +18,8 @@ class PresentationStack;
 
 // The shell: makes the window and its root screen, and turns the desktop's events into the
 // application's life events: a window shown again after the tray or a minimise enters the
-// foreground, an activated window becomes active, a window hidden or minimised enters the
-// background, and quitting terminates.
+// foreground and then becomes active (the first show only becomes active), a window hidden or
+// minimised enters the background, and quitting terminates. Focus changes are no life events.
 class AppDelegate : public QObject {
     Q_OBJECT
 
@@ -62,6 +62,7 @@ private:
     MainViewController* root_ = nullptr;
     QSystemTrayIcon* tray_ = nullptr;
     bool inBackground_ = false;
+    bool launched_ = false;
     bool active_ = false;
     bool quitting_ = false;
     bool startsInBackground_ = false;

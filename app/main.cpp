@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 #include "app/MonthCommand.h"
 #include "app/PersianFont.h"
+#include "app/PersianQtTexts.h"
 #include "app/ReminderList.h"
 #include "app/Replanning.h"
 #include "app/SingleInstance.h"
@@ -124,7 +125,8 @@ int main(int argc, char** argv)
     }
 
     usePersianFont();
-    QApplication::setApplicationDisplayName(QStringLiteral("Kavenda"));
+    usePersianQtTexts();
+    QApplication::setApplicationDisplayName(QStringLiteral("کاوندا"));
     // Wayland docks match the window to the menu entry by this name.
     QApplication::setDesktopFileName(QStringLiteral(KAVENDA_APP_ID));
     QApplication::setWindowIcon(QIcon(QString::fromStdString((paths.resourceFolder() / "kavenda.png").string())));

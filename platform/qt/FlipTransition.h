@@ -14,6 +14,9 @@ class FlipTransition : public QWidget {
 public:
     FlipTransition(QWidget* parent, QPixmap from, QPixmap to, bool forward);
 
+    // The picture the turn ends on: the incoming screen as it was when the turn began.
+    const QPixmap& finalPicture() const { return to_; }
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

@@ -4,7 +4,9 @@
 
 namespace kavenda {
 
-// A row of dots, one per page, the current one lit.
+// A row of dots, one per page, the current one lit. A click on a dot picks its page, a click
+// beside the dots moves one page towards it, and so do the arrow keys; each change the user
+// makes is reported with valueChanged.
 class PageIndicator : public QWidget {
     Q_OBJECT
 
@@ -15,13 +17,27 @@ public:
     int numberOfPages() const;
     void setCurrentPage(int page);
     int currentPage() const;
+    // Where the dot of a page is drawn.
+    QRect dotRect(int page) const;
+    // The page a click at this horizontal position asks for.
+    int pageAt(double x) const;
+    // Moves to a page as the user does: reported when it changes the current page.
+    void choosePage(int page);
 
     QSize sizeHint() const override;
 
+signals:
+    void valueChanged(int page);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    int dotsLeft() const;
+
     int pages_ = 0;
     int current_ = 0;
 };

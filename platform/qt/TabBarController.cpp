@@ -1,5 +1,7 @@
 #include "platform/qt/TabBarController.h"
 
+#include "platform/qt/TabBarButton.h"
+
 #include <QButtonGroup>
 #include <QHBoxLayout>
 #include <QStackedWidget>
@@ -41,12 +43,11 @@ TabBarController::TabBarController(QWidget* parent)
 
 int TabBarController::addTab(QWidget* page, const QString& title, const QIcon& icon) {
     const int index = pages_->addWidget(page);
-    auto* button = new QToolButton(bar_);
+    auto* button = new TabBarButton(bar_);
     button->setText(title);
     button->setIcon(icon);
     button->setIconSize(QSize(kIconSize, kIconSize));
     button->setToolButtonStyle(icon.isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonTextUnderIcon);
-    button->setCheckable(true);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     button->setChecked(index == pages_->currentIndex());
     group_->addButton(button, index);

@@ -1,6 +1,8 @@
 #include "platform/qt/ToggleSwitch.h"
 
+#include "platform/qt/AccessibleFactory.h"
 #include "platform/qt/Animations.h"
+#include "platform/qt/ToggleSwitchAccessible.h"
 
 #include <QPainter>
 
@@ -14,6 +16,7 @@ constexpr int kMargin = 2;
 }  // namespace
 
 ToggleSwitch::ToggleSwitch(QWidget* parent) : QAbstractButton(parent) {
+    installAccessibleInterface<ToggleSwitch, ToggleSwitchAccessible>();
     setCheckable(true);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -5,7 +5,8 @@
 
 namespace kavenda {
 
-// An on/off switch: a rounded track and a knob that slides to the "on" end.
+// An on/off switch: a rounded track and a knob that slides to the "on" end. A screen reader
+// finds a check box named by the label whose buddy it is (or by its accessible name).
 class ToggleSwitch : public QAbstractButton {
     Q_OBJECT
 

@@ -20,6 +20,8 @@ public:
     static constexpr int rowHeight = 44;
     static constexpr int minimumListHeight = 308;
     static constexpr int listWidth = 312;
+    // The list's content is narrower than its holder: the holder's scroll bar takes the rest.
+    static constexpr int scrollContentWidth = 300;
 
     ChosenCities(MyDB& db, std::function<void()> rebuildReminders);
 

@@ -3,6 +3,7 @@
 #include "screens/cities/ChosenCities.h"
 #include "screens/cities/EditingRowDelegate.h"
 
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -14,7 +15,7 @@ EditableCityList::EditableCityList(QWidget* parent) : QListWidget(parent)
 {
     setItemDelegate(new EditingRowDelegate(this));
     setSelectionMode(QAbstractItemView::NoSelection);
-    setFocusPolicy(Qt::NoFocus);
+    setFocusPolicy(Qt::StrongFocus);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);
@@ -30,6 +31,7 @@ void EditableCityList::setCities(const ChosenCities& cities)
         item->setTextAlignment(Qt::AlignVCenter | Qt::AlignLeading);
         if (ChosenCities::isDimmed(row))
             item->setForeground(QColor(Qt::gray));
+        item->setData(Qt::AccessibleDescriptionRole, tr("حذف با Delete، جابجایی با Ctrl و بالا یا پایین"));
     }
 }
 
@@ -105,6 +107,35 @@ void EditableCityList::mouseReleaseEvent(QMouseEvent* event)
     dropRow_ = -1;
     viewport()->update();
     emit moveRequested(from, to);
+}
+
+// The keyboard does what the controls do: Delete asks and a second Delete removes the row;
+// Ctrl with Up or Down moves it. Arrows alone go from row to row.
+void EditableCityList::keyPressEvent(QKeyEvent* event)
+{
+    const int row = currentRow();
+    const bool moving = event->modifiers() & Qt::ControlModifier;
+    if (row < 0) {
+        QListWidget::keyPressEvent(event);
+    } else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
+        if (row != confirmingRow_) {
+            setConfirmingRow(row);
+            return;
+        }
+        setConfirmingRow(-1);
+        emit deleteRequested(row);
+        setCurrentRow(std::min(row, count() - 1));
+    } else if (event->key() == Qt::Key_Escape && confirmingRow_ >= 0) {
+        setConfirmingRow(-1);
+    } else if (moving && (event->key() == Qt::Key_Up || event->key() == Qt::Key_Down)) {
+        const int to = std::clamp(row + (event->key() == Qt::Key_Up ? -1 : 1), 0, count() - 1);
+        if (to != row)
+            emit moveRequested(row, to);
+        setCurrentRow(to);
+    } else {
+        setConfirmingRow(-1);
+        QListWidget::keyPressEvent(event);
+    }
 }
 
 void EditableCityList::mouseDoubleClickEvent(QMouseEvent* event)

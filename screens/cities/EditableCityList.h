@@ -7,7 +7,8 @@ namespace kavenda {
 class ChosenCities;
 
 // The chosen cities in permanent editing mode: each row has a delete control, which asks for
-// a confirmation, and a grip to drag it to another place in the order. Nothing is selected.
+// a confirmation, and a grip to drag it to another place in the order; the keyboard does the
+// same. Nothing is selected.
 class EditableCityList : public QListWidget {
     Q_OBJECT
 
@@ -33,6 +34,7 @@ protected:
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
     void mouseDoubleClickEvent(QMouseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

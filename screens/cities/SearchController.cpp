@@ -13,6 +13,7 @@ SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
     ui_->setupUi(this);
     if (search_.isProvinceMode())
         ui_->searchBar->setPlaceholderText(tr("نام استان"));
+    ui_->searchBar->setAccessibleName(ui_->searchBar->placeholderText());
     connect(ui_->searchBar, &QLineEdit::textChanged, this, &SearchController::textDidChange);
     connect(ui_->cancelButton, &QPushButton::clicked, this, &SearchController::cancel);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &SearchController::cancel);

@@ -1,5 +1,7 @@
 #include "screens/cities/SelectionController.h"
 
+#include "platform/Platform.h"
+#include "platform/UrlOpener.h"
 #include "platform/qt/NavigationStack.h"
 #include "screens/cities/CitySearch.h"
 #include "screens/cities/CustomUITabBarController.h"
@@ -13,6 +15,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QShowEvent>
 
 #include <utility>
@@ -26,6 +29,15 @@ constexpr int kListX = 4;
 constexpr int kListY = 5;
 constexpr int kCreateRowY = 319;
 constexpr int kCreateRowHeight = 43;
+
+// A slim bar in the strip beside the list's content, over the same white as the rows.
+const char* const scrollerStyle = R"(
+QScrollArea, QScrollArea > QWidget > QWidget { background: white; }
+QScrollBar:vertical { width: 12px; background: white; margin: 0; }
+QScrollBar::handle:vertical { background: rgba(0, 0, 0, 90); border-radius: 3px; min-height: 24px; margin: 2px 3px; }
+QScrollBar::add-line:vertical, QScrollBar::sub-line:vertical { height: 0; }
+QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none; }
+)";
 
 // The nearest enclosing widget of a kind: the stack and the tab bar this screen sits in.
 template <typename Container>
@@ -51,7 +63,10 @@ QListWidget* makeCreateRow(QWidget* parent)
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(14, 0, 12, 0);
-    layout->addWidget(new QLabel(SelectionController::tr("ایجاد شهر جدید"), row));
+    const QString text = SelectionController::tr("ایجاد شهر جدید");
+    item->setData(Qt::AccessibleTextRole, text);
+    table->setAccessibleName(text);
+    layout->addWidget(new QLabel(text, row));
     layout->addStretch();
     auto* disclosure = new QLabel(row);
     disclosure->setText(row->isRightToLeft() ? QStringLiteral("\u2039") : QStringLiteral("\u203A"));
@@ -78,7 +93,10 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
     tblScrollView_->setGeometry(kListX, kListY, ChosenCities::listWidth, ChosenCities::minimumListHeight);
     tblScrollView_->setFrameShape(QFrame::NoFrame);
     tblScrollView_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    tblScrollView_->setStyleSheet(QString::fromLatin1(scrollerStyle));
     tblScrollView_->setWidget(listHolder_);
+    tblScrollView_->setAccessibleName(tr("شهرهای انتخاب شده"));
+    tbl_->setAccessibleName(tr("شهرهای انتخاب شده"));
     roundCorners(tblScrollView_, kCornerRadius);
 
     createNewCityTable_ = makeCreateRow(this);
@@ -110,8 +128,11 @@ void SelectionController::showCities()
     tblScrollView_->setVerticalScrollBarPolicy(cities_.listHeight() > ChosenCities::minimumListHeight
                                                    ? Qt::ScrollBarAsNeeded
                                                    : Qt::ScrollBarAlwaysOff);
-    tbl_->setGeometry(0, 0, ChosenCities::listWidth, cities_.listHeight());
-    listHolder_->resize(ChosenCities::listWidth, cities_.scrollContentHeight());
+    tbl_->setGeometry(0, 0, ChosenCities::scrollContentWidth, cities_.listHeight());
+    listHolder_->resize(ChosenCities::scrollContentWidth, cities_.scrollContentHeight());
+    // The rows are laid out now, not at the next turn of the event loop: a flip that brings
+    // this screen in takes its picture before then.
+    tbl_->doItemsLayout();
 }
 
 void SelectionController::remove(int row)
@@ -129,6 +150,12 @@ void SelectionController::move(int from, int to)
 void SelectionController::Done()
 {
     cities_.Done(delegate_);
+}
+
+void SelectionController::ShowWebSite()
+{
+    if (UrlOpener* urls = Platform::installed().urls)
+        urls->open(KAVENDA_HOMEPAGE);
 }
 
 void SelectionController::SearchControllerShow()

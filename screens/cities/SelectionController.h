@@ -35,6 +35,12 @@ public:
     // The search is over.
     void closeForm() override;
 
+public slots:
+    // Opens the maker's web site in the desktop's browser; a control of a layout connects to it.
+    void ShowWebSite();
+
+public:
+
     const ChosenCities& cities() const { return cities_; }
     EditableCityList* tbl() const { return tbl_; }
     QListWidget* createNewCityTable() const { return createNewCityTable_; }

@@ -1,5 +1,7 @@
 #include "screens/main/CustomUIImageView.h"
 
+#include "platform/qt/AccessibleFactory.h"
+#include "screens/main/CustomUIImageViewAccessible.h"
 #include "screens/main/DayPage.h"
 
 #include <QGraphicsDropShadowEffect>
@@ -20,6 +22,7 @@ CustomUIImageView::CustomUIImageView(const Row& row, int index, DateTimePersian&
                                      const std::filesystem::path& resourceFolder, QWidget* parent)
     : QWidget(parent)
 {
+    installAccessibleInterface<CustomUIImageView, CustomUIImageViewAccessible>();
     const DayPage page(row, index, date, screenHeight);
     const Frame& frame = page.frame();
     setGeometry(frame.x, frame.y, frame.width, frame.height);
@@ -34,7 +37,9 @@ CustomUIImageView::CustomUIImageView(const Row& row, int index, DateTimePersian&
     addLabel({30, 70, 250, 40}, right, 16, 3, page.occasion());
     addLabel({30, 45, 160, 40}, left, 20, 3, page.date());
     for (int k = 1; k <= DayPage::timeCount; ++k)
-        addLabel({35, timeRowTop + timeRowStep * (k - 1), 100, 40}, left, 25, 2, page.time(k));
+        addLabel({35, timeRowTop + timeRowStep * (k - 1), 100, 40}, left, 25, 2, page.time(k))
+            ->setAccessibleName(QString::fromStdString(page.timeReading(k)));
+    setAccessibleName(QString::fromStdString(page.name() + "، " + page.date()));
 }
 
 void CustomUIImageView::paintEvent(QPaintEvent*)
@@ -44,8 +49,8 @@ void CustomUIImageView::paintEvent(QPaintEvent*)
     painter.drawPixmap(0, top_, background_);
 }
 
-void CustomUIImageView::addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
-                                    const std::string& text)
+QLabel* CustomUIImageView::addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
+                                   const std::string& text)
 {
     auto* label = new QLabel(QString::fromStdString(text), this);
     label->setGeometry(frame.x, top_ + frame.y, frame.width, frame.height);
@@ -53,14 +58,19 @@ void CustomUIImageView::addLabel(const Frame& frame, Qt::Alignment alignment, in
     QFont font = label->font();
     font.setPixelSize(fontSize);
     label->setFont(font);
+    // Inside the pager a label inherits the scroll area's Text role, not WindowText.
     QPalette colours = label->palette();
     colours.setColor(QPalette::WindowText, Qt::white);
+    colours.setColor(QPalette::Text, Qt::white);
     label->setPalette(colours);
     auto* shadow = new QGraphicsDropShadowEffect(label);
     shadow->setColor(Qt::black);
     shadow->setOffset(-1, shadowDown);
     shadow->setBlurRadius(0);
     label->setGraphicsEffect(shadow);
+    // Nothing to show is nothing for a screen reader to stop at either.
+    label->setHidden(text.empty());
+    return label;
 }
 
 }  // namespace kavenda

@@ -7,13 +7,16 @@
 
 #include <filesystem>
 
+class QLabel;
+
 namespace kavenda {
 
 class DateTimePersian;
 struct Frame;
 
 // One city's day over the page artwork: name, first occasion, date and eight times. Built
-// once; the main screen throws it away on its next rebuild.
+// once; the main screen throws it away on its next rebuild, or keeps it when nothing changed.
+// A screen reader hears the page by its city and date, and each time with its caption.
 class CustomUIImageView : public QWidget {
     Q_OBJECT
 
@@ -25,7 +28,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown, const std::string& text);
+    QLabel* addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown, const std::string& text);
 
     QPixmap background_;
     int top_ = 0;

@@ -4,6 +4,7 @@
 #include "calendar/Utility.h"
 #include "data/Format.h"
 #include "screens/main/CityPages.h"
+#include "screens/main/TimeCaptions.h"
 
 namespace kavenda {
 
@@ -45,6 +46,12 @@ DayPage::DayPage(const Row& row, int index, DateTimePersian& date, int screenHei
         times_[static_cast<std::size_t>(k - 1)] = Utility::ConvertToPersian(date.formatHour(time->second));
         date.setDayOfYear(date.dayOfYear() - shift);
     }
+}
+
+std::string DayPage::timeReading(int k) const
+{
+    const std::string caption(timeCaptions.at(static_cast<std::size_t>(k - 1)));
+    return time(k).empty() ? caption : caption + " " + time(k);
 }
 
 }  // namespace kavenda

@@ -28,6 +28,8 @@ public:
     // Time k from 1 to 8: the day's six times, then the next day's dawn call and sunrise.
     // Empty when the row holds no times for the day.
     const std::string& time(int k) const { return times_.at(static_cast<std::size_t>(k - 1)); }
+    // Time k as a screen reader says it: its caption, then its value where the day has one.
+    std::string timeReading(int k) const;
 
 private:
     Frame frame_;

@@ -11,11 +11,8 @@
 #include "screens/main/CustomUIImageView.h"
 #include "screens/main/DayPage.h"
 
-#include <QMouseEvent>
 #include <QPalette>
 #include <QToolButton>
-
-#include <algorithm>
 
 namespace kavenda {
 
@@ -50,6 +47,7 @@ MainViewController::MainViewController(const Services& services, PresentationSta
     : QWidget(parent), services_(services), presentation_(presentation), pages_(services.db)
 {
     setObjectName(QStringLiteral("MainViewController"));
+    setAccessibleName(tr("اوقات شرعی"));
     viewDidLoad();
     connect(&presentation_, &PresentationStack::topChanged, this, &MainViewController::presentationChanged);
 }
@@ -74,19 +72,22 @@ void MainViewController::viewDidLoad()
 
     scrollView_ = new Pager(this);
     scrollView_->setGeometry(0, 0, CityPages::pageWidth, CityPages::pageHeight + shift);
+    scrollView_->setAccessibleName(tr("شهرها"));
     connect(scrollView_, &Pager::didScroll, this, &MainViewController::scrollViewDidScroll);
 
     pageControl_ = new PageIndicator(this);
     pageControl_->setGeometry(0, 425 + shift, 320, 36);
-    pageControl_->installEventFilter(this);
+    connect(pageControl_, &PageIndicator::valueChanged, this, &MainViewController::pageAction);
 
     QAbstractButton* options = informationButton(this);
     options->setObjectName(QStringLiteral("optionsButton"));
+    options->setAccessibleName(tr("گزینه ها"));
     options->setGeometry(290, 430 + shift, 18, 19);
     connect(options, &QAbstractButton::clicked, this, &MainViewController::showSelector);
 
     QAbstractButton* calendar = calendarButton(services_.paths.resourceFolder(), this);
     calendar->setObjectName(QStringLiteral("calendarButton"));
+    calendar->setAccessibleName(tr("تقویم"));
     calendar->setGeometry(15, 425 + shift, 34, 32);
     connect(calendar, &QAbstractButton::clicked, this, &MainViewController::showCalendar);
 
@@ -133,14 +134,21 @@ void MainViewController::updateDataSource()
     pages_.updateDataSource(*localDtp_);
 }
 
+// Pages are made from their rows and the date alone, so the pages on show serve again when
+// neither changed: the rebuilds that follow one another at start and on return cost no widgets.
 void MainViewController::Bind()
 {
     pageCount_ = static_cast<int>(datasource().size());
-    QList<QWidget*> pageViews;
-    for (int i = 0; i < pageCount_; ++i)
-        pageViews.append(new CustomUIImageView(datasource()[static_cast<std::size_t>(i)], i, *localDtp_,
-                                               services_.screen.boundsHeight(), services_.paths.resourceFolder()));
-    scrollView_->setPages(pageViews);
+    const std::string dateKey = localDtp_->getPersianDate();
+    if (datasource() != boundRows_ || dateKey != boundDate_) {
+        QList<QWidget*> pageViews;
+        for (int i = 0; i < pageCount_; ++i)
+            pageViews.append(new CustomUIImageView(datasource()[static_cast<std::size_t>(i)], i, *localDtp_,
+                                                   services_.screen.boundsHeight(), services_.paths.resourceFolder()));
+        scrollView_->setPages(pageViews);
+        boundRows_ = datasource();
+        boundDate_ = dateKey;
+    }
     scrollView_->setContentOffset(CityPages::lastPageOffset(pageCount_, scrollView_->width()), false);
     pageControl_->setNumberOfPages(pageCount_);
     pageControl_->setCurrentPage(pageCount_ - 1);
@@ -174,22 +182,6 @@ void MainViewController::closeCalendar(const DateTimePersian& date, QWidget* cal
     localDtp_ = DateTimePersian::initWithPersianDate(date.getPersianDate(), services_.calendar);
     if (presentation_.top() == calendar)
         presentation_.dismiss(true);
-}
-
-// A tap on the indicator moves one page towards the side it lands on.
-bool MainViewController::eventFilter(QObject* watched, QEvent* event)
-{
-    if (watched == pageControl_ && event->type() == QEvent::MouseButtonRelease) {
-        const auto* tap = static_cast<QMouseEvent*>(event);
-        const int step = tap->position().x() >= pageControl_->width() / 2.0 ? 1 : -1;
-        const int page = std::clamp(pageControl_->currentPage() + step, 0, std::max(0, pageCount_ - 1));
-        if (page != pageControl_->currentPage()) {
-            pageControl_->setCurrentPage(page);
-            pageAction();
-        }
-        return true;
-    }
-    return QWidget::eventFilter(watched, event);
 }
 
 void MainViewController::pageAction()

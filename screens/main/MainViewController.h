@@ -67,7 +67,6 @@ signals:
 
 protected:
     void showEvent(QShowEvent* event) override;
-    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void viewDidLoad();
@@ -82,6 +81,9 @@ private:
     Pager* scrollView_ = nullptr;
     PageIndicator* pageControl_ = nullptr;
     bool appeared_ = false;
+    // What the pages on show were made from.
+    RowSet boundRows_;
+    std::string boundDate_;
 };
 
 }  // namespace kavenda

@@ -1,9 +1,10 @@
 #include "tools/artwork/Artwork.h"
 
+#include "screens/main/TimeCaptions.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 #include <QRadialGradient>
-#include <QStringList>
 
 namespace kavenda::artwork {
 
@@ -14,13 +15,8 @@ constexpr int kFirstRowY = 108;
 constexpr int kRowStep = 38;
 constexpr int kRowHeight = 40;
 
-const QStringList& captions() {
-    static const QStringList rows{
-        QStringLiteral("اذان صبح"),  QStringLiteral("طلوع آفتاب"),    QStringLiteral("اذان ظهر"),
-        QStringLiteral("غروب آفتاب"), QStringLiteral("اذان مغرب"),     QStringLiteral("نیمه شب شرعی"),
-        QStringLiteral("اذان صبح فردا"), QStringLiteral("طلوع آفتاب فردا"),
-    };
-    return rows;
+QString caption(int row) {
+    return QString::fromUtf8(timeCaptions[static_cast<std::size_t>(row)]);
 }
 
 void paintSky(QPainter& painter, const QRectF& page) {
@@ -69,9 +65,9 @@ void paintRow(QPainter& painter, int row) {
     painter.drawRoundedRect(QRectF(22, top + 8, 118, kRowHeight - 16), 7, 7);
     painter.setFont(persianFont(17, true));
     painter.setPen(QColor(0, 0, 0, 140));
-    drawPersian(painter, QRectF(146, top + 1, 146, kRowHeight), captions()[row], Qt::AlignRight | Qt::AlignVCenter);
+    drawPersian(painter, QRectF(146, top + 1, 146, kRowHeight), caption(row), Qt::AlignRight | Qt::AlignVCenter);
     painter.setPen(tomorrow ? QColor(0xf6, 0xdc, 0xae) : QColor(0xf4, 0xf1, 0xe8));
-    drawPersian(painter, QRectF(146, top, 146, kRowHeight), captions()[row], Qt::AlignRight | Qt::AlignVCenter);
+    drawPersian(painter, QRectF(146, top, 146, kRowHeight), caption(row), Qt::AlignRight | Qt::AlignVCenter);
 }
 
 // The strip under the rows where the page indicator and the buttons sit.
@@ -92,7 +88,7 @@ QImage mainView() {
     paintSky(painter, page);
     paintTitle(painter);
     paintInfoPanel(painter);
-    for (int row = 0; row < captions().size(); ++row)
+    for (int row = 0; row < static_cast<int>(timeCaptions.size()); ++row)
         paintRow(painter, row);
     paintFooter(painter, page);
     return image;

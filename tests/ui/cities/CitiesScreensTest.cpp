@@ -1,5 +1,8 @@
 #include "app/PersianFont.h"
+#include "platform/Platform.h"
+#include "platform/UrlOpener.h"
 #include "platform/qt/Animations.h"
+#include "platform/qt/FlipTransition.h"
 #include "platform/qt/NavigationStack.h"
 #include "platform/qt/PresentationStack.h"
 #include "screens/cities/CustomUITabBarController.h"
@@ -10,10 +13,12 @@
 #include "screens/cities/SelectionController.h"
 #include "tests/ui/cities/OptionsFixture.h"
 
+#include <QAccessible>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QScrollBar>
 #include <QToolButton>
 #include <QtTest>
 
@@ -79,6 +84,38 @@ bool isGrey(const QListWidgetItem* item)
 {
     return item->foreground().style() != Qt::NoBrush && item->foreground().color() == QColor(Qt::gray);
 }
+
+QRect frameIn(const QWidget* ancestor, const QWidget* widget, const QRect& rect)
+{
+    return {widget->mapTo(ancestor, rect.topLeft()), rect.size()};
+}
+
+QString accessibleName(QObject* object)
+{
+    return QAccessible::queryAccessibleInterface(object)->text(QAccessible::Name);
+}
+
+// The names a screen reader finds for the children of a control.
+QStringList childNames(QObject* object)
+{
+    QStringList names;
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(object);
+    for (int i = 0; i < face->childCount(); ++i)
+        names << face->child(i)->text(QAccessible::Name);
+    return names;
+}
+
+class RecordingUrlOpener final : public UrlOpener {
+public:
+    void open(const std::string& address) override { opened.push_back(address); }
+    std::vector<std::string> opened;
+};
+
+// Animations for one case, off again whatever happens in it.
+struct Animated {
+    Animated() { setAnimationsEnabled(true); }
+    ~Animated() { setAnimationsEnabled(false); }
+};
 
 }  // namespace
 
@@ -272,10 +309,145 @@ private slots:
         OptionsFixture f;
         f.choose({tehran, isfahan, kerman, yazd, kashan, shahriar});
         f.open();
-        QCOMPARE(f.selection()->tbl()->geometry(), QRect(0, 0, 312, 308));
+        QCOMPARE(f.selection()->tbl()->geometry(), QRect(0, 0, 300, 308));
         QCOMPARE(f.selection()->tblScrollView()->geometry(), QRect(4, 5, 312, 308));
         QCOMPARE(f.selection()->tblScrollView()->widget()->height(), 309);
         QCOMPARE(f.selection()->createNewCityTable()->geometry(), QRect(4, 319, 312, 43));
+    }
+
+    // Without a pointer: Delete asks and removes, Ctrl with an arrow moves a row.
+    void theKeyboardRemovesAndMovesRows()
+    {
+        OptionsFixture f;
+        f.choose({tehran, isfahan, kerman});
+        f.open();
+        EditableCityList* list = f.selection()->tbl();
+        list->setFocus();
+        list->setCurrentRow(2);
+        QTest::keyClick(list, Qt::Key_Up, Qt::ControlModifier);
+        QCOMPARE(f.orderings(), (QStringList{"32:0", "35:1", "33:2"}));
+        QCOMPARE(list->currentRow(), 1);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(list->confirmingRow(), 1);
+        QTest::keyClick(list, Qt::Key_Escape);
+        QCOMPARE(list->confirmingRow(), -1);
+        QCOMPARE(list->count(), 3);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QTest::keyClick(list, Qt::Key_Delete);
+        QCOMPARE(f.listedNames(), (QStringList{QStringLiteral("تهران (تهران)"), QStringLiteral("اصفهان (اصفهان)")}));
+        QCOMPARE(list->currentRow(), 1);
+        QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));  // a removal renumbers nothing
+        QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);  // already the last row
+        QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));
+    }
+
+    // More rows than the holder shows: its bar stands beside the rows' controls, not over them.
+    void aLongListScrollsBesideItsRows()
+    {
+        OptionsFixture f;
+        for (int id = 40; id < 44; ++id)
+            QVERIFY(f.db().ExecuteNonQuery("INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES(" +
+                                           std::to_string(id) + ", 'ری', 1, 0)"));
+        f.choose({tehran, isfahan, kerman, yazd, kashan, shahriar, 40, 41, 42, 43});
+        f.open();
+        QScrollArea* holder = f.selection()->tblScrollView();
+        EditableCityList* list = f.selection()->tbl();
+        QCOMPARE(list->count(), 10);
+        QCOMPARE(holder->widget()->size(), QSize(300, 441));
+        QTRY_VERIFY(holder->verticalScrollBar()->isVisible());
+        const QRect bar = frameIn(holder, holder->verticalScrollBar(), holder->verticalScrollBar()->rect());
+        const QRect shown = frameIn(holder, holder->viewport(), holder->viewport()->rect());
+        for (int row = 0; row < list->count(); ++row) {
+            for (const QRect& control : {list->deleteControlRect(row), list->gripRect(row)}) {
+                const QRect at = frameIn(holder, list->viewport(), control);
+                QVERIFY2(at.right() < bar.left() || at.left() > bar.right(), qPrintable(QString::number(row)));
+                QVERIFY2(at.left() >= shown.left() && at.right() <= shown.right(), qPrintable(QString::number(row)));
+            }
+        }
+        holder->verticalScrollBar()->setValue(holder->verticalScrollBar()->maximum());
+        f.saveScreenshot(QStringLiteral("cities-long-list.png"));
+    }
+
+    // The options turn in with the list as it will stand, not with an empty one.
+    void theFlipShowsTheListsRows()
+    {
+        const Animated animated;
+        OptionsFixture f;
+        f.choose({tehran, isfahan, kerman});
+        f.open();
+        const auto* flip = f.presentation()->findChild<FlipTransition*>();
+        QVERIFY(flip);
+        const QImage during = flip->finalPicture().toImage();
+        QTRY_VERIFY(!f.presentation()->findChild<FlipTransition*>());
+        QTest::qWait(50);
+        const QImage after = f.tabs()->grab().toImage();
+        const QScrollArea* holder = f.selection()->tblScrollView();
+        const QRect list = frameIn(f.tabs(), holder, holder->rect());
+        QCOMPARE(during.copy(list), after.copy(list));
+    }
+
+    // Persian is typed from the right: that is where the empty field's cursor waits.
+    void theEmptySearchFieldWaitsAtTheRight()
+    {
+        OptionsFixture f;
+        f.open();
+        QTRY_VERIFY(f.search());
+        QLineEdit* field = f.search()->searchBar();
+        QVERIFY(field->text().isEmpty());
+        field->repaint();  // the field places its text, and the cursor, as it paints
+        const QRect cursor = field->inputMethodQuery(Qt::ImCursorRectangle).toRect();
+        QVERIFY2(cursor.center().x() > field->width() * 3 / 4, qPrintable(QString::number(cursor.center().x())));
+    }
+
+    void theWebSiteOpensInTheBrowser()
+    {
+        RecordingUrlOpener urls;
+        const Platform before = Platform::installed();
+        Platform services;
+        services.urls = &urls;
+        Platform::install(services);
+        OptionsFixture f;
+        f.open();
+        // By name, as a control of a layout calls it.
+        QVERIFY(QMetaObject::invokeMethod(f.selection(), "ShowWebSite"));
+        Platform::install(before);
+        QCOMPARE(urls.opened, std::vector<std::string>{KAVENDA_HOMEPAGE});
+        QVERIFY(QString::fromStdString(urls.opened.front()).startsWith(QStringLiteral("https://")));
+    }
+
+    void aScreenReaderFindsTheControlsByTheirPersianNames()
+    {
+        OptionsFixture f;
+        f.choose({tehran, isfahan});
+        f.open();
+        SelectionController* selection = f.selection();
+        QCOMPARE(accessibleName(selection->btnSearch()), QStringLiteral("جستجو"));
+        QCOMPARE(accessibleName(selection->btnDone()), QStringLiteral("تمام"));
+        QCOMPARE(accessibleName(selection->tbl()), QStringLiteral("شهرهای انتخاب شده"));
+        QVERIFY(childNames(selection->tbl()).contains(QStringLiteral("اصفهان (اصفهان)")));
+        QCOMPARE(accessibleName(selection->createNewCityTable()), QStringLiteral("ایجاد شهر جدید"));
+        QVERIFY(childNames(selection->createNewCityTable()).contains(QStringLiteral("ایجاد شهر جدید")));
+        const QStringList tabs{QStringLiteral("شهرها"), QStringLiteral("تنظیمات"), QStringLiteral("اذان"),
+                               QStringLiteral("مناسبت ها"), QStringLiteral("درباره ما")};
+        for (int tab = 0; tab < tabs.size(); ++tab) {
+            QAccessibleInterface* face = QAccessible::queryAccessibleInterface(f.tabs()->tabButton(tab));
+            QCOMPARE(face->role(), QAccessible::PageTab);
+            QCOMPARE(face->text(QAccessible::Name), tabs[tab]);
+            QCOMPARE(face->state().selected, tab == 0);
+            QCOMPARE(face->state().disabled, false);
+        }
+        QAccessible::queryAccessibleInterface(f.tabs()->tabButton(4))->actionInterface()->doAction(
+            QAccessibleActionInterface::pressAction());
+        QCOMPARE(f.tabs()->currentIndex(), 4);
+        QTest::mouseClick(f.tabs()->tabButton(0), Qt::LeftButton);
+
+        QTest::mouseClick(selection->btnSearch(), Qt::LeftButton);
+        QVERIFY(f.search());
+        QAccessibleInterface* field = QAccessible::queryAccessibleInterface(f.search()->searchBar());
+        QCOMPARE(field->role(), QAccessible::EditableText);
+        QCOMPARE(field->text(QAccessible::Name), QStringLiteral("نام شهر یا استان"));
+        QCOMPARE(accessibleName(f.search()->cancelButton()), QStringLiteral("انصراف"));
+        QCOMPARE(accessibleName(f.search()->tblResult()), QStringLiteral("نتیجه جستجو"));
     }
 
     void doneRebuildsTheRemindersBeforeTheOptionsClose()

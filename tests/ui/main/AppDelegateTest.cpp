@@ -1,10 +1,13 @@
 #include "app/AppDelegate.h"
+#include "data/MyDB.h"
 #include "platform/Alerts.h"
 #include "platform/FixedClock.h"
 #include "platform/FixedPaths.h"
 #include "platform/IcuPersianCalendar.h"
 #include "platform/FixedScreen.h"
 #include "platform/qt/Animations.h"
+#include "platform/qt/PageIndicator.h"
+#include "platform/qt/Pager.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
@@ -66,12 +69,40 @@ private slots:
         QVERIFY(delegate->window()->isVisible());
         QCOMPARE(delegate->window()->size(), QSize(320, 460));
         QCOMPARE(delegate->rootViewController()->pageCount(), 1);
+
+        // Becoming active follows the launch once, whatever the focus does.
+        QSignalSpy refreshed(delegate->rootViewController(), &MainViewController::refreshed);
+        QCOMPARE(refreshed.count(), 0);
+        QTRY_COMPARE(refreshed.count(), 1);
+        QVERIFY(QTest::qWaitForWindowActive(delegate->window()));
+        QTest::qWait(50);
+        QCOMPARE(refreshed.count(), 1);
+        QCOMPARE(notifications.cancelCalls, 1);
+    }
+
+    // Clicking another window and coming back, or closing an alert, leaves the page as it was.
+    void focusChangesAreNoLifeEvents()
+    {
+        MainViewController& main = *delegate->rootViewController();
+        MyDB::initialize().ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(33, 1)");
+        main.refresh();
+        QCOMPARE(main.pageCount(), 2);
+        main.scrollView()->setContentOffset(0, false);
+        QSignalSpy refreshed(&main, &MainViewController::refreshed);
+        const int updates = notifications.cancelCalls;
+
+        for (QEvent::Type type : {QEvent::WindowDeactivate, QEvent::WindowActivate, QEvent::WindowDeactivate,
+                                  QEvent::WindowActivate})
+            windowManagerSends(delegate->window(), type);
+        QTest::qWait(50);
+        QCOMPARE(refreshed.count(), 0);
+        QCOMPARE(notifications.cancelCalls, updates);
+        QCOMPARE(main.scrollView()->contentOffset(), 0.0);
+        QCOMPARE(main.pageControl()->currentPage(), 0);
     }
 
     void aReturnFromTheBackgroundUpdatesOnceAndRefreshesTwice()
     {
-        // The cold start's own activation comes first.
-        QVERIFY(QTest::qWaitForWindowActive(delegate->window()));
         QSignalSpy refreshed(delegate->rootViewController(), &MainViewController::refreshed);
         const int updates = notifications.cancelCalls;
         const auto logged = log.lines.size();
@@ -84,7 +115,9 @@ private slots:
         delegate->window()->show();
         QCOMPARE(refreshed.count(), 1);
         QCOMPARE(notifications.cancelCalls, updates + 1);
+        QTRY_COMPARE(refreshed.count(), 2);
         windowManagerSends(delegate->window(), QEvent::WindowActivate);
+        QTest::qWait(50);
         QCOMPARE(refreshed.count(), 2);
         QCOMPARE(notifications.cancelCalls, updates + 1);
         // The root screen's class name, once, after the scheduler's own lines.
@@ -95,11 +128,13 @@ private slots:
 
     void unminimisingIsAReturnToTheForegroundToo()
     {
+        QSignalSpy refreshed(delegate->rootViewController(), &MainViewController::refreshed);
         const int updates = notifications.cancelCalls;
         delegate->window()->showMinimized();
         QTest::qWait(50);
         delegate->window()->showNormal();
         QTRY_COMPARE(notifications.cancelCalls, updates + 1);
+        QTRY_COMPARE(refreshed.count(), 2);
     }
 
     void aRefreshReturnsToToday()

@@ -12,7 +12,10 @@
 #include "tests/ui/main/MainScreenFixture.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
+#include <QAccessibleValueInterface>
 #include <QLabel>
+#include <QPointer>
 #include <QtTest>
 
 namespace kavenda {
@@ -27,6 +30,27 @@ constexpr int tehran = 32, isfahan = 33, mashhad = 34, varamin = 64;
 QRect frameOf(const MainViewController& main, const char* name)
 {
     return main.findChild<QWidget*>(QLatin1String(name))->geometry();
+}
+
+bool isWhite(QRgb pixel)
+{
+    return qRed(pixel) > 230 && qGreen(pixel) > 230 && qBlue(pixel) > 230;
+}
+
+bool isBlack(QRgb pixel)
+{
+    return qRed(pixel) < 25 && qGreen(pixel) < 25 && qBlue(pixel) < 25;
+}
+
+QList<QPointer<CustomUIImageView>> tracked(const QList<CustomUIImageView*>& pages)
+{
+    return {pages.begin(), pages.end()};
+}
+
+QString accessibleName(QObject* object)
+{
+    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(object);
+    return face ? face->text(QAccessible::Name) : QStringLiteral("(none)");
 }
 
 }  // namespace
@@ -109,6 +133,131 @@ private slots:
         main.pageControl()->setCurrentPage(1);
         main.pageAction();
         QTRY_COMPARE(main.scrollView()->contentOffset(), 320.0);
+    }
+
+    // A click on a dot goes to its page; a click beside the dots moves one page that way.
+    void clickingTheIndicatorMovesThePages()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran, isfahan, mashhad});
+        MainViewController& main = f.show();
+        PageIndicator* indicator = main.pageControl();
+        const int middle = indicator->height() / 2;
+        const QList<QPair<QPoint, int>> clicks{
+            {indicator->dotRect(0).center(), 0},
+            {indicator->dotRect(1).center() + QPoint(5, 0), 1},
+            {indicator->dotRect(2).topLeft(), 2},
+            {QPoint(2, middle), 1},
+            {QPoint(2, middle), 0},
+            {QPoint(2, middle), 0},
+            {QPoint(indicator->width() - 2, middle), 1},
+        };
+        // Through the window, as the desktop delivers a click: to whichever widget takes it there.
+        QWindow* window = f.window().windowHandle();
+        for (const auto& [at, page] : clicks) {
+            QTest::mouseClick(window, Qt::LeftButton, {}, indicator->mapTo(&f.window(), at));
+            QCOMPARE(indicator->currentPage(), page);
+            QTRY_COMPARE(main.scrollView()->contentOffset(), 320.0 * page);
+        }
+    }
+
+    // Inside the pager a label takes the viewport's text colour unless told otherwise.
+    void theDayIsWrittenInWhiteWithABlackShadow()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran});
+        f.show();
+        const QImage artwork(QString::fromStdString((f.paths.resourceFolder() / "MainView.png").string()));
+        if (artwork.isNull())
+            QSKIP("the build made no artwork");
+        const QImage shown = f.window().grab().toImage();
+        CustomUIImageView* page = f.pages().first();
+        for (const QLabel* label : page->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
+            if (label->text().isEmpty())
+                continue;
+            int white = 0;
+            int shadow = 0;
+            const QRect frame(label->mapTo(&f.window(), QPoint(0, 0)), label->size());
+            for (int y = frame.top(); y <= frame.bottom(); ++y) {
+                for (int x = frame.left(); x <= frame.right(); ++x) {
+                    const QRgb pixel = shown.pixel(x, y);
+                    white += isWhite(pixel) && !isWhite(artwork.pixel(x, y)) ? 1 : 0;
+                    shadow += isBlack(pixel) && !isBlack(artwork.pixel(x, y)) ? 1 : 0;
+                }
+            }
+            QVERIFY2(white >= 10, qPrintable(label->text()));
+            QVERIFY2(shadow >= 10, qPrintable(label->text()));
+        }
+    }
+
+    void aRebuildThatFindsTheSameDayKeepsItsPages()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran, isfahan});
+        MainViewController& main = f.show();
+        const auto before = tracked(f.pages());
+        main.scrollView()->setContentOffset(0, false);
+
+        main.refresh();
+        main.closeForm();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QCOMPARE(tracked(f.pages()), before);
+        for (const auto& page : before)
+            QVERIFY(page);
+        // The rebuild still opens on the first city.
+        QCOMPARE(main.scrollView()->contentOffset(), 320.0);
+        QCOMPARE(main.pageControl()->currentPage(), 1);
+
+        // Another day, or another list, makes new pages.
+        main.closeCalendar(DateTimePersian::initWithPersianDate("920411", f.calendar), nullptr);
+        main.updateDataSource();
+        main.Bind();
+        QCOMPARE(MainScreenFixture::texts(f.pages().first())[2], QStringLiteral("١١ تیر"));
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        for (const auto& page : before)
+            QVERIFY(!page);
+        f.choose({mashhad});
+        main.refresh();
+        QCOMPARE(main.pageCount(), 3);
+    }
+
+    void aScreenReaderFindsEveryControlByItsPersianName()
+    {
+        MainScreenFixture f(summerDay);
+        f.choose({tehran, isfahan, mashhad});
+        MainViewController& main = f.show();
+
+        QAccessibleInterface* options = QAccessible::queryAccessibleInterface(main.findChild<QWidget*>(QStringLiteral("optionsButton")));
+        QCOMPARE(options->role(), QAccessible::Button);
+        QCOMPARE(options->text(QAccessible::Name), QStringLiteral("گزینه ها"));
+        QCOMPARE(accessibleName(main.findChild<QWidget*>(QStringLiteral("calendarButton"))), QStringLiteral("تقویم"));
+
+        QAccessibleInterface* indicator = QAccessible::queryAccessibleInterface(main.pageControl());
+        QCOMPARE(indicator->role(), QAccessible::Slider);
+        QCOMPARE(indicator->text(QAccessible::Name), QStringLiteral("صفحه ٣ از ٣"));
+        QVERIFY(indicator->valueInterface());
+        QCOMPARE(indicator->valueInterface()->maximumValue().toInt(), 2);
+        indicator->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
+        QCOMPARE(indicator->text(QAccessible::Name), QStringLiteral("صفحه ٢ از ٣"));
+        QTRY_COMPARE(main.scrollView()->contentOffset(), 320.0);
+        indicator->valueInterface()->setCurrentValue(0);
+        QTRY_COMPARE(main.scrollView()->contentOffset(), 0.0);
+
+        // Each page by its city and date; only the page on show is on screen.
+        const auto pages = f.pages();
+        QAccessibleInterface* first = QAccessible::queryAccessibleInterface(pages[0]);
+        QCOMPARE(first->role(), QAccessible::Pane);
+        QCOMPARE(first->text(QAccessible::Name), QStringLiteral("مشهد، ١٠ تیر"));
+        QVERIFY(!first->state().offscreen);
+        QVERIFY(QAccessible::queryAccessibleInterface(pages[2])->state().offscreen);
+
+        // The times read as caption and value, in the order of the rows.
+        QStringList readings;
+        for (const QLabel* label : pages[2]->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).mid(3))
+            readings << accessibleName(const_cast<QLabel*>(label));
+        QCOMPARE(readings.first(), QStringLiteral("اذان صبح ٠٤:٥١"));
+        QCOMPARE(readings.last(), QStringLiteral("طلوع آفتاب فردا ٠٦:٢٧"));
+        QCOMPARE(readings.size(), 8);
     }
 
     void controlsSitAtTheirFramesOnBothScreens_data()

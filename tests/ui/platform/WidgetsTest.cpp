@@ -6,6 +6,7 @@
 #include "platform/qt/TabBarController.h"
 #include "platform/qt/ToggleSwitch.h"
 
+#include <QAccessible>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
@@ -97,6 +98,48 @@ private slots:
         QCOMPARE(indicator.currentPage(), 2);
         indicator.setNumberOfPages(1);
         QCOMPARE(indicator.currentPage(), 0);
+    }
+
+    // Keys and clicks the user makes are reported; pages set by code are not.
+    void pageIndicatorReportsOnlyTheUsersChanges() {
+        PageIndicator indicator;
+        indicator.resize(320, 36);
+        indicator.setNumberOfPages(4);
+        indicator.setCurrentPage(3);
+        indicator.show();
+        QSignalSpy chosen(&indicator, &PageIndicator::valueChanged);
+        indicator.setCurrentPage(2);
+        QCOMPARE(chosen.size(), 0);
+        const QList<QPair<int, int>> keys{{Qt::Key_Left, 1}, {Qt::Key_Left, 0}, {Qt::Key_Left, 0}, {Qt::Key_Right, 1}};
+        for (const auto& [key, page] : keys) {
+            QTest::keyClick(&indicator, static_cast<Qt::Key>(key));
+            QCOMPARE(indicator.currentPage(), page);
+        }
+        QCOMPARE(chosen.size(), 3);  // the press at the first page changed nothing
+        QTest::mouseClick(&indicator, Qt::LeftButton, {}, indicator.dotRect(3).center());
+        QCOMPARE(chosen.takeLast().first().toInt(), 3);
+        QCOMPARE(indicator.pageAt(indicator.dotRect(0).left() - 6), 2);  // beside the dots: one step
+        QCOMPARE(indicator.pageAt(indicator.dotRect(2).right() + 3), 2);  // the gap belongs to the dot
+    }
+
+    void toggleSwitchReadsAsACheckBoxNamedByItsRow() {
+        QWidget row;
+        auto* label = new QLabel(QStringLiteral("اذان صبح"), &row);
+        auto* toggle = new ToggleSwitch(&row);
+        label->setBuddy(toggle);
+        row.show();
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(toggle);
+        QCOMPARE(face->role(), QAccessible::CheckBox);
+        QCOMPARE(face->text(QAccessible::Name), QStringLiteral("اذان صبح"));
+        QVERIFY(face->state().checkable);
+        QVERIFY(!face->state().checked);
+        QSignalSpy toggled(toggle, &ToggleSwitch::toggled);
+        face->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(toggle->isChecked());
+        QVERIFY(face->state().checked);
+        QCOMPARE(toggled.size(), 1);
+        toggle->setAccessibleName(QStringLiteral("سحر"));
+        QCOMPARE(face->text(QAccessible::Name), QStringLiteral("سحر"));
     }
 
     void tabBarRefusesDisabledTabsToTheUserButNotToCode() {

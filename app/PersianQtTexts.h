@@ -1,0 +1,8 @@
+#pragma once
+
+namespace kavenda {
+
+// Qt's own texts, such as a text field's edit menu, in Persian where Qt has them.
+void usePersianQtTexts();
+
+}  // namespace kavenda
