@@ -1,6 +1,8 @@
 #include "app/AppDelegate.h"
 #include "app/PersianFont.h"
 #include "app/ReminderList.h"
+#include "app/StartupFailure.h"
+#include "data/DatabaseCheck.h"
 #include "data/MyDB.h"
 #include "platform/DeviceRandom.h"
 #include "platform/FixedScreen.h"
@@ -92,6 +94,8 @@ int main(int argc, char** argv)
     MessageBoxAlerts alerts;
     FixedScreen screen(parser.isSet(tall));
     Platform::install({clock.get(), &calendar, &paths, &log, &notifications, &random, &audio, &urls, &alerts, &screen});
+    if (const auto problem = openSharedDatabase())
+        return reportStartupProblem(*problem, log);
 
     if (parser.isSet(reminders)) {
         MyDB::initialize();
