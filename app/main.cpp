@@ -5,8 +5,10 @@
 #include "app/ReminderList.h"
 #include "app/Replanning.h"
 #include "app/SingleInstance.h"
+#include "app/StartupFailure.h"
 #include "app/TrayStatus.h"
 #include "calendar/DateTimePersian.h"
+#include "data/DatabaseCheck.h"
 #include "data/MyDB.h"
 #include "platform/DeviceRandom.h"
 #include "platform/FixedScreen.h"
@@ -105,6 +107,8 @@ int main(int argc, char** argv)
     MessageBoxAlerts alerts;
     FixedScreen screen(parser.isSet(tall));
     Platform::install({clock.get(), &calendar, &paths, &log, &notifications, &random, &audio, &urls, &alerts, &screen});
+    if (const auto problem = openSharedDatabase())
+        return reportStartupProblem(*problem, log);
 
     if (parser.isSet(reminders)) {
         MyDB::initialize();

@@ -21,6 +21,28 @@ constexpr std::array<std::string_view, 12> monthNames{
 constexpr int lastYearWithSummerHour = 1401;
 constexpr int lastDayWithSummerHour = 185;
 constexpr int minutesPerDay = 24 * 60;
+constexpr int hoursPerDay = 24;
+
+int gregorianYearLength(int year)
+{
+    return year % 4 == 0 ? 366 : 365;
+}
+
+int gregorianDayOfYear(int year, int month, int day)
+{
+    int n = day;
+    for (int m = 1; m < month && m <= 12; ++m)
+        n += gregorianMonthDays[static_cast<std::size_t>(m - 1)] + (m == 2 && gregorianYearLength(year) == 366 ? 1 : 0);
+    return n;
+}
+
+// The day of its Gregorian year on which 1 Farvardin of a Persian year falls (noon keeps the
+// civil day whatever the zone's offset).
+int newYearDay(int persianYear, const PersianCalendar& calendar)
+{
+    const CivilTime civil = calendar.gregorianFields(calendar.instantOf(persianYear, 1, 1, 12, 0));
+    return gregorianDayOfYear(civil.year, civil.month, civil.day);
+}
 
 }  // namespace
 
@@ -38,28 +60,25 @@ DateTimePersian DateTimePersian::init(const Clock& clock, const PersianCalendar&
 DateTimePersian DateTimePersian::init(Instant instant, const PersianCalendar& calendar)
 {
     const CivilTime civil = calendar.gregorianFields(instant);
-    const bool gregorianLeap = civil.year % 4 == 0;
-    int n = civil.day;
-    for (int m = 1; m < civil.month; ++m)
-        n += gregorianMonthDays[static_cast<std::size_t>(m - 1)] + (m == 2 && gregorianLeap ? 1 : 0);
+    const int n = gregorianDayOfYear(civil.year, civil.month, civil.day);
 
-    // A Gregorian year one past a leap year holds the end of a 366-day Persian year.
-    int yearLength = 365;
-    int esfandDays = 29;
-    if (civil.year % 4 == 1) {
-        n += 1;
-        esfandDays = 30;
-        yearLength = 366;
-    }
-    n += 286;
+    // The Persian year that began in the previous Gregorian year, counted from its first day;
+    // where the years begin comes from the platform's calendar, whose leap years are the
+    // official ones.
+    const int previousYearLength = gregorianYearLength(civil.year - 1);
+    const int firstDay = newYearDay(civil.year - 622, calendar);
+    const int nextFirstDay = newYearDay(civil.year - 621, calendar);
+    const int yearLength = previousYearLength - firstDay + nextFirstDay;
 
     int year = civil.year - 622;
-    int dayOfYear = n;
-    if (n > yearLength) {
-        dayOfYear = n - yearLength;
+    int dayOfYear = n + previousYearLength - firstDay + 1;
+    if (dayOfYear > yearLength) {
+        dayOfYear -= yearLength;
         year = civil.year - 621;
     }
 
+    // Only the year that ends in this Gregorian year reaches Esfand.
+    const int esfandDays = yearLength - 336;
     int month = 1;
     int rest = dayOfYear;
     for (;;) {
@@ -111,15 +130,17 @@ std::string DateTimePersian::getFullPersianDate() const
 std::string DateTimePersian::formatHour(std::string_view time) const
 {
     TimeOfDay t = readTimeOfDay(time);
+    // Wide arithmetic: a damaged time text may hold any int.
     if (hasSummerHour())
-        t.hour = (t.hour + 1) % 24;
+        t.hour = static_cast<int>((static_cast<long long>(t.hour) + 1) % hoursPerDay);
     return format("%02d:%02d", {t.hour, t.minute});
 }
 
 std::string DateTimePersian::add(std::string_view time, std::string_view timeToInterval)
 {
     const TimeOfDay t = readTimeOfDay(time);
-    const int total = ((t.hour * 60 + t.minute + intValue(timeToInterval)) % minutesPerDay + minutesPerDay) % minutesPerDay;
+    const long long minutes = static_cast<long long>(t.hour) * 60 + t.minute + intValue(timeToInterval);
+    const auto total = static_cast<int>((minutes % minutesPerDay + minutesPerDay) % minutesPerDay);
     return format("%d:%d", {total / 60, total % 60});
 }
 

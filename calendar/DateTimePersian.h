@@ -10,8 +10,9 @@ namespace kavenda {
 class Clock;
 class PersianCalendar;
 
-// A Persian (solar hijri) date: made from the clock by fixed arithmetic, or read back from a
-// date key; writes the date key and the texts of a date, and shifts stored times for display.
+// A Persian (solar hijri) date: made from the clock by day arithmetic on the official leap
+// years, or read back from a date key; writes the date key and the texts of a date, and
+// shifts stored times for display.
 class DateTimePersian {
 public:
     // Today, by the installed platform's clock and calendar.

@@ -11,6 +11,7 @@
 #include <memory>
 #include <string>
 #include <system_error>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace kavenda {
@@ -37,6 +38,16 @@ std::string convertedValue(sqlite3_stmt* statement, int column)
     }
 }
 
+bool syncToDisk(const fs::path& path)
+{
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
+    if (descriptor < 0)
+        return false;
+    const bool synced = ::fsync(descriptor) == 0;
+    ::close(descriptor);
+    return synced;
+}
+
 }  // namespace
 
 MyDB& MyDB::initialize()
@@ -49,7 +60,10 @@ MyDB::MyDB(std::string fileName, const Paths& paths, Log& log)
     : paths_(paths), log_(log), fileName_(std::move(fileName))
 {
     dbPath_ = getDBPath();
-    if (!isExist())
+    removeLeftoverCopies();
+    // A file of no bytes is what a failed copy of old left behind: it holds nothing to keep.
+    std::error_code error;
+    if (!isExist() || fs::file_size(dbPath_, error) == 0)
         copyDB();
 }
 
@@ -64,28 +78,50 @@ std::string MyDB::getDBPath() const
     return (paths_.documentsFolder() / fileName_).string();
 }
 
-// The copy lands under a temporary name and is renamed into place, so a copy cut short
-// never leaves a half file that later starts would take for the working copy.
+std::string MyDB::partialPrefix() const
+{
+    return fileName_ + ".partial-";
+}
+
+// Copies that a killed process left under their temporary names.
+void MyDB::removeLeftoverCopies() const
+{
+    std::error_code error;
+    const std::string prefix = partialPrefix();
+    for (fs::directory_iterator entry(fs::path(dbPath_).parent_path(), error), end; !error && entry != end;
+         entry.increment(error)) {
+        if (entry->path().filename().string().starts_with(prefix)) {
+            std::error_code ignored;
+            fs::remove(entry->path(), ignored);
+        }
+    }
+}
+
+// The copy lands under a temporary name, reaches the disk and is only then renamed into
+// place, so neither a copy cut short nor a power cut leaves a half file that later starts
+// would take for the working copy.
 bool MyDB::copyDB()
 {
     std::error_code error;
     const fs::path target(dbPath_);
     fs::create_directories(target.parent_path(), error);
-    const fs::path partial = target.string() + ".partial-" + std::to_string(::getpid());
-    if (!fs::copy_file(paths_.resourceFolder() / fileName_, partial, fs::copy_options::overwrite_existing, error)) {
+    const fs::path partial = target.parent_path() / (partialPrefix() + std::to_string(::getpid()));
+    const bool copied
+        = fs::copy_file(paths_.resourceFolder() / fileName_, partial, fs::copy_options::overwrite_existing, error)
+        && syncToDisk(partial);
+    if (copied)
+        fs::rename(partial, target, error);
+    if (!copied || error) {
         fs::remove(partial, error);
         return false;
     }
-    fs::rename(partial, target, error);
-    if (error) {
-        fs::remove(partial, error);
-        return false;
-    }
+    syncToDisk(target.parent_path());
     return true;
 }
 
 int MyDB::loadDB()
 {
+    close();
     const int result = sqlite3_open(dbPath_.c_str(), &database_);
     if (result == SQLITE_OK)
         installNameMatching(database_);

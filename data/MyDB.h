@@ -21,7 +21,7 @@ public:
     // The shared instance, made on the first call from the installed platform services.
     static MyDB& initialize();
 
-    // Makes the working copy when none exists yet.
+    // Makes the working copy when none exists yet, or when an empty file stands in its place.
     MyDB(std::string fileName, const Paths& paths, Log& log);
     MyDB(const MyDB&) = delete;
     MyDB& operator=(const MyDB&) = delete;
@@ -44,6 +44,8 @@ public:
 
 private:
     void close();
+    std::string partialPrefix() const;
+    void removeLeftoverCopies() const;
 
     const Paths& paths_;
     Log& log_;

@@ -10,4 +10,11 @@ namespace kavenda {
 using Row = std::map<std::string, std::string>;
 using RowSet = std::vector<Row>;
 
+// The value of a column, "" when the row has none (a damaged schema must not stop a screen).
+inline std::string valueOf(const Row& row, const std::string& column)
+{
+    const auto found = row.find(column);
+    return found == row.end() ? std::string() : found->second;
+}
+
 }  // namespace kavenda

@@ -5,11 +5,16 @@
 #include <QAudioOutput>
 #include <QMediaPlayer>
 
+#include <memory>
+
 namespace kavenda {
 
+// The media player is made on first use: loading the multimedia back end costs a start
+// that plays nothing (the reminders list, most launches) time and memory.
 class QtAudioPlayer final : public AudioPlayer {
 public:
     QtAudioPlayer();
+    ~QtAudioPlayer() override;
 
     bool open(const std::filesystem::path& file) override;
     void play() override;
@@ -17,8 +22,10 @@ public:
     bool isPlaying() const override;
 
 private:
-    QAudioOutput output_;
-    QMediaPlayer player_;
+    QMediaPlayer& player();
+
+    std::unique_ptr<QAudioOutput> output_;
+    std::unique_ptr<QMediaPlayer> player_;
 };
 
 }  // namespace kavenda

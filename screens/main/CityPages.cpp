@@ -26,9 +26,9 @@ void CityPages::updateDataSource(const DateTimePersian& date)
     datasource_.clear();
     const std::string dateKey = date.getPersianDate();
     for (const Row& city : db_.Execute(sql::chosenCitiesLastFirst)) {
-        const bool centre = city.at("IsCenter") == "1";
-        const std::string& name = city.at("Name");
-        const int id = intValue(city.at("StateID"));
+        const bool centre = valueOf(city, "IsCenter") == "1";
+        const std::string name = valueOf(city, "Name");
+        const int id = intValue(valueOf(city, "StateID"));
         const int timesId = centre ? id : intValue(db_.ExecuteScaler(formatSql(sql::provinceCentreOfCity, {id})).value_or(""));
 
         Row page = dayRow(dateKey, timesId, name);
@@ -40,7 +40,7 @@ void CityPages::updateDataSource(const DateTimePersian& date)
                 if (time == page.end())
                     continue;
                 // No offset row: the centre's times, unshifted.
-                const std::string offset = offsets.empty() ? "" : offsets.front().at(format("%d", {k}));
+                const std::string offset = offsets.empty() ? "" : valueOf(offsets.front(), format("%d", {k}));
                 time->second = DateTimePersian::add(time->second, offset);
             }
         }

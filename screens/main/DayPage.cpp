@@ -13,12 +13,6 @@ namespace {
 constexpr int tallScreenTop = 44;
 constexpr int firstNextDayTime = 7;
 
-std::string valueOf(const Row& row, const std::string& key)
-{
-    const auto found = row.find(key);
-    return found == row.end() ? std::string() : found->second;
-}
-
 std::string firstOccasion(const std::string& description)
 {
     const std::size_t at = description.find('@');

@@ -49,7 +49,17 @@ INSTANTIATE_TEST_SUITE_P(KnownDays, FromClock, ::testing::Values(
     ClockCase{2017, 1, 1, 1395, 10, 12, 288},
     ClockCase{2017, 3, 20, 1395, 12, 30, 366},
     ClockCase{2021, 3, 21, 1400, 1, 1, 1},
-    ClockCase{2026, 11, 22, 1405, 9, 1, 247}));
+    ClockCase{2026, 11, 22, 1405, 9, 1, 247},
+    // The official leap years: 1403 and 1408 have 366 days, 1407 has 365.
+    ClockCase{2025, 3, 20, 1403, 12, 30, 366},
+    ClockCase{2025, 3, 21, 1404, 1, 1, 1},
+    ClockCase{2028, 3, 19, 1406, 12, 29, 365},
+    ClockCase{2028, 3, 20, 1407, 1, 1, 1},
+    ClockCase{2029, 3, 19, 1407, 12, 29, 365},
+    ClockCase{2029, 3, 20, 1408, 1, 1, 1},
+    ClockCase{2029, 7, 1, 1408, 4, 11, 104},
+    ClockCase{2030, 3, 20, 1408, 12, 30, 366},
+    ClockCase{2030, 3, 21, 1409, 1, 1, 1}));
 
 TEST(FromClockOverYears, ConsecutiveDaysGiveConsecutiveDaysOfTheYear)
 {
@@ -129,7 +139,10 @@ INSTANTIATE_TEST_SUITE_P(Days, FormatHour, ::testing::Values(
     HourCase{"920801", "4:5", "04:05"},
     HourCase{"1010630", "4:53", "05:53"},   // 1401 still kept summer time
     HourCase{"1020101", "4:53", "04:53"},   // from 1402 on it is gone
-    HourCase{"1050301", "12:07", "12:07"}));
+    HourCase{"1050301", "12:07", "12:07"},
+    // Damaged data: the hour wraps without overflowing.
+    HourCase{"920101", "2147483647:00", "08:00"},
+    HourCase{"920801", "2147483647:00", "2147483647:00"}));
 
 TEST(FormatHour, FollowsTheDayOfYearThatTheCallerSets)
 {
@@ -150,6 +163,9 @@ TEST(AddMinutes, WrapsAroundMidnightBothWays)
         {"23:50", "15", "0:5"}, {"0:10", "-20", "23:50"}, {"12:00", "0", "12:0"},
         {"6:0", "5", "6:5"},    {"4:35", "-3", "4:32"},   {"0:0", "-1440", "0:0"},
         {"1:00", "-3000", "23:0"}, {"22:58", "+90", "0:28"},
+        // Damaged data: the extremes of int wrap without overflowing.
+        {"2147483647:00", "0", "7:0"}, {"2147483647:59", "2147483647", "10:6"},
+        {"-2147483648:0", "-2147483648", "13:52"},
     };
     for (const auto& c : cases)
         EXPECT_EQ(DateTimePersian::add(c.time, c.minutes), c.result) << c.time << " " << c.minutes;

@@ -118,6 +118,19 @@ TEST_F(MyDBTest, FirstUseCopiesTheResourceAndLaterUsesNeverOverwrite)
     EXPECT_EQ(std::distance(fs::directory_iterator(paths.documentsFolder()), fs::directory_iterator()), 1);
 }
 
+TEST_F(MyDBTest, OpeningAgainClosesTheHandleItReplaces)
+{
+    const auto openFiles = [] {
+        return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+    };
+    MyDB db("Icons", paths, log);
+    const auto before = openFiles();
+    for (int i = 0; i < 3; ++i)
+        EXPECT_EQ(db.loadDB(), 0);
+    EXPECT_EQ(db.ExecuteScaler("SELECT COUNT(*) FROM tSetting"), "1");
+    EXPECT_EQ(openFiles(), before);
+}
+
 TEST_F(MyDBTest, ADeletedWorkingCopyComesBackEmpty)
 {
     MyDB db("Icons", paths, log);

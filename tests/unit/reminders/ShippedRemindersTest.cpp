@@ -101,5 +101,23 @@ TEST_F(ShippedReminders, ACityMadeByTheUserIsShiftedFromItsCentre)
     }
 }
 
+// 1408 is leap and 1407 is not: on 1 July 2029, 11 Tir 1408, the rebuild starts from that
+// day's row and announces five days, none of them one day off.
+TEST_F(ShippedReminders, AfterTheOfficialLeapYearTheDaysStillMatchTheirTimes)
+{
+    clock.set(tehran(2029, 7, 1, 0, 1));
+    db.ExecuteNonQuery("UPDATE tSetting SET Item3 = 0, Item4 = 0, Item5 = 0, Item7 = '0'");
+    const auto records = updateFor(tehranCentre);
+    ASSERT_EQ(records.size(), 15u);
+    for (int day = 0; day < 5; ++day) {
+        const std::string dawn
+            = scalar(format("SELECT T1 FROM tTimes WHERE StateID = 39 AND Date = 10804%02d", {11 + day}));
+        const std::size_t colon = dawn.find(':');
+        EXPECT_EQ(records[static_cast<std::size_t>(3 * day)].fireDate,
+                  tehran(2029, 7, 1 + day, std::stoi(dawn.substr(0, colon)), std::stoi(dawn.substr(colon + 1))))
+            << day;
+    }
+}
+
 }  // namespace
 }  // namespace kavenda

@@ -1,0 +1,24 @@
+#include "app/StartupFailure.h"
+
+#include "data/DatabaseCheck.h"
+#include "platform/Log.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+namespace kavenda {
+
+int reportStartupProblem(const StartupProblem& problem, Log& log)
+{
+    log.line(problem.logLine);
+    if (qobject_cast<QApplication*>(QCoreApplication::instance())) {
+        QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
+                        QString::fromStdString(problem.message), QMessageBox::NoButton);
+        box.setLayoutDirection(Qt::RightToLeft);
+        box.addButton(QStringLiteral("باشه"), QMessageBox::AcceptRole);
+        box.exec();
+    }
+    return 1;
+}
+
+}  // namespace kavenda

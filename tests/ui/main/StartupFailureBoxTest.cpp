@@ -1,0 +1,43 @@
+#include "app/StartupFailure.h"
+#include "data/DatabaseCheck.h"
+#include "tests/support/RecordingLog.h"
+
+#include <QAbstractButton>
+#include <QMessageBox>
+#include <QTimer>
+#include <QtTest>
+
+namespace kavenda {
+
+// With a display, a start that cannot go on says why in a box before it ends.
+class StartupFailureBoxTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void theBoxShowsTheMessageAndTheStartFails()
+    {
+        const auto problem = shippedDatabaseProblem("/nowhere/share/kavenda/Icons");
+        QVERIFY(problem);
+        test::RecordingLog log;
+        QString text;
+        QString button;
+        QTimer::singleShot(0, this, [&] {
+            auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            QVERIFY(box);
+            text = box->text();
+            button = box->buttons().value(0)->text();
+            QCOMPARE(box->buttons().size(), 1);
+            box->buttons().value(0)->click();
+        });
+        QCOMPARE(reportStartupProblem(*problem, log), 1);
+        QCOMPARE(log.lines, std::vector<std::string>{problem->logLine});
+        QCOMPARE(text, QString::fromStdString(problem->message));
+        QVERIFY(text.contains(QStringLiteral("/nowhere/share/kavenda/Icons")));
+        QCOMPARE(button, QStringLiteral("باشه"));
+    }
+};
+
+}  // namespace kavenda
+
+QTEST_MAIN(kavenda::StartupFailureBoxTest)
+#include "StartupFailureBoxTest.moc"

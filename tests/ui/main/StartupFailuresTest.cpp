@@ -1,0 +1,129 @@
+#include "tests/support/FixtureDatabase.h"
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <functional>
+#include <fstream>
+#include <iterator>
+#include <string>
+#include <sys/wait.h>
+
+namespace kavenda {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string contents(const fs::path& file)
+{
+    std::ifstream in(file, std::ios::binary);
+    return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+struct Outcome {
+    int status;
+    std::string out;
+    std::string err;
+};
+
+// The real program, as a person or a script starts it, in Iran's zone.
+class StartupFailures : public ::testing::Test {
+protected:
+    fs::path data() const { return temp.path() / "data"; }
+    fs::path working() const { return data() / "Icons"; }
+    fs::path shipped() const { return fs::path(KAVENDA_RESOURCE_DIR) / "Icons"; }
+
+    Outcome start(const fs::path& program, const std::string& options) const
+    {
+        const fs::path out = temp.path() / "out";
+        const fs::path err = temp.path() / "err";
+        const std::string command = "TZ=Asia/Tehran QT_QPA_PLATFORM=offscreen '" + program.string() + "' --data-dir '"
+            + data().string() + "' " + options + " >'" + out.string() + "' 2>'" + err.string() + "' </dev/null";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(out), contents(err)};
+    }
+
+    Outcome start(const std::string& options) const { return start(KAVENDA_PROGRAM, options); }
+
+    // The program installed beside a resource folder of our making.
+    fs::path installedWith(const std::function<void(const fs::path& resources)>& fill) const
+    {
+        const fs::path program = temp.path() / "install" / "bin" / "kavenda";
+        fs::create_directories(program.parent_path());
+        fs::create_directories(temp.path() / "install" / "resources");
+        fs::copy_file(KAVENDA_PROGRAM, program);
+        fill(temp.path() / "install" / "resources");
+        return program;
+    }
+
+    // A working copy of the shipped database with one chosen city and its dawn call on.
+    void workingCopyWithACity(const std::string& damage = "") const
+    {
+        fs::create_directories(data());
+        fs::copy_file(shipped(), working());
+        test::execSql(working(), "INSERT INTO tSelectedStates VALUES(32, 0); UPDATE tSetting SET Item0 = 1;" + damage);
+    }
+
+    test::TempFolder temp;
+};
+
+TEST_F(StartupFailures, AShippedDatabaseThatIsMissingOrUnreadableStopsTheStartAndCreatesNothing)
+{
+    const std::pair<const char*, std::function<void(const fs::path&)>> installs[] = {
+        {"missing", [](const fs::path&) {}},
+        {"not a database", [](const fs::path& resources) { std::ofstream(resources / "Icons") << "<html>404</html>"; }},
+        {"a folder", [](const fs::path& resources) { fs::create_directory(resources / "Icons"); }},
+    };
+    for (const auto& [what, fill] : installs) {
+        const fs::path program = installedWith(fill);
+        const Outcome result = start(program, "--reminders");
+        EXPECT_EQ(result.status, 1) << what;
+        const fs::path looked = program.parent_path().parent_path() / "resources" / "Icons";
+        EXPECT_EQ(result.err, "kavenda: cannot read the program's database " + looked.string()
+                                  + "; install the program again\n") << what;
+        EXPECT_EQ(result.out, "") << what;
+        EXPECT_TRUE(!fs::exists(data()) || fs::is_empty(data())) << what;
+        fs::remove_all(temp.path() / "install");
+    }
+}
+
+TEST_F(StartupFailures, AnEmptyWorkingCopyIsReplacedAndLeftoversRemoved)
+{
+    fs::create_directories(data());
+    std::ofstream(working()).close();
+    std::ofstream(data() / "Icons.partial-777") << "half";
+    const Outcome result = start("--reminders");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_EQ(contents(working()), contents(shipped()));
+    EXPECT_FALSE(fs::exists(data() / "Icons.partial-777"));
+}
+
+TEST_F(StartupFailures, AWorkingCopyWithoutTheTablesIsReportedAndKept)
+{
+    fs::create_directories(data());
+    test::execSql(working(), "CREATE TABLE notes(text); INSERT INTO notes VALUES('mine')");
+    const std::string before = contents(working());
+    const Outcome result = start("--reminders");
+    EXPECT_EQ(result.status, 1);
+    EXPECT_NE(result.err.find("kavenda: the database " + working().string() + " lacks tStates"), std::string::npos)
+        << result.err;
+    EXPECT_NE(result.err.find("move the file aside"), std::string::npos) << result.err;
+    EXPECT_EQ(contents(working()), before);
+}
+
+TEST_F(StartupFailures, ADamagedSchemaNeitherAbortsTheWindowNorTheReminders)
+{
+    workingCopyWithACity("ALTER TABLE tStates RENAME COLUMN Name TO Title;");
+    const std::string before = contents(working());
+    const fs::path png = temp.path() / "main.png";
+    const Outcome window = start("--now 2013-07-01T12:00 --screenshot '" + png.string() + "'");
+    EXPECT_EQ(window.status, 0) << window.err;
+    EXPECT_GT(fs::file_size(png), 0u);
+    const Outcome reminders = start("--now 2013-07-01T12:00 --reminders");
+    EXPECT_EQ(reminders.status, 0) << reminders.err;
+    EXPECT_EQ(contents(working()), before);
+}
+
+}  // namespace
+}  // namespace kavenda
