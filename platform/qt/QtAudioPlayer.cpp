@@ -39,6 +39,9 @@ void QtAudioPlayer::stop()
         player_->stop();
 }
 
-bool QtAudioPlayer::isPlaying() const { return player_.playbackState() == QMediaPlayer::PlayingState; }
+bool QtAudioPlayer::isPlaying() const
+{
+    return player_ && player_->playbackState() == QMediaPlayer::PlayingState;
+}
 
 }  // namespace kavenda
