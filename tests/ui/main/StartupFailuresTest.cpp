@@ -1,5 +1,6 @@
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/FileText.h"
 
 #include <gtest/gtest.h>
 
@@ -14,12 +15,6 @@ namespace kavenda {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string contents(const fs::path& file)
-{
-    std::ifstream in(file, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
 
 struct Outcome {
     int status;
@@ -41,7 +36,7 @@ protected:
         const std::string command = "TZ=Asia/Tehran QT_QPA_PLATFORM=offscreen '" + program.string() + "' --data-dir '"
             + data().string() + "' " + options + " >'" + out.string() + "' 2>'" + err.string() + "' </dev/null";
         const int status = std::system(command.c_str());
-        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contents(out), contents(err)};
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, test::fileText(out), test::fileText(err)};
     }
 
     Outcome start(const std::string& options) const { return start(KAVENDA_PROGRAM, options); }
@@ -95,7 +90,7 @@ TEST_F(StartupFailures, AnEmptyWorkingCopyIsReplacedAndLeftoversRemoved)
     std::ofstream(data() / "Icons.partial-777") << "half";
     const Outcome result = start("--reminders");
     EXPECT_EQ(result.status, 0) << result.err;
-    EXPECT_EQ(contents(working()), contents(shipped()));
+    EXPECT_EQ(test::fileText(working()), test::fileText(shipped()));
     EXPECT_FALSE(fs::exists(data() / "Icons.partial-777"));
 }
 
@@ -103,26 +98,26 @@ TEST_F(StartupFailures, AWorkingCopyWithoutTheTablesIsReportedAndKept)
 {
     fs::create_directories(data());
     test::execSql(working(), "CREATE TABLE notes(text); INSERT INTO notes VALUES('mine')");
-    const std::string before = contents(working());
+    const std::string before = test::fileText(working());
     const Outcome result = start("--reminders");
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.err.find("kavenda: the database " + working().string() + " lacks tStates"), std::string::npos)
         << result.err;
     EXPECT_NE(result.err.find("move the file aside"), std::string::npos) << result.err;
-    EXPECT_EQ(contents(working()), before);
+    EXPECT_EQ(test::fileText(working()), before);
 }
 
 TEST_F(StartupFailures, ADamagedSchemaNeitherAbortsTheWindowNorTheReminders)
 {
     workingCopyWithACity("ALTER TABLE tStates RENAME COLUMN Name TO Title;");
-    const std::string before = contents(working());
+    const std::string before = test::fileText(working());
     const fs::path png = temp.path() / "main.png";
     const Outcome window = start("--now 2013-07-01T12:00 --screenshot '" + png.string() + "'");
     EXPECT_EQ(window.status, 0) << window.err;
     EXPECT_GT(fs::file_size(png), 0u);
     const Outcome reminders = start("--now 2013-07-01T12:00 --reminders");
     EXPECT_EQ(reminders.status, 0) << reminders.err;
-    EXPECT_EQ(contents(working()), before);
+    EXPECT_EQ(test::fileText(working()), before);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/FileText.h"
 
 #include <gtest/gtest.h>
 
@@ -17,12 +18,6 @@ namespace kavenda {
 namespace {
 
 namespace fs = std::filesystem;
-
-std::string contents(const fs::path& file)
-{
-    std::ifstream in(file, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(in), {});
-}
 
 void write(const fs::path& file, const std::string& text)
 {
@@ -73,7 +68,7 @@ TEST_F(DatabaseCheck, AShippedDatabaseThatCannotServeIsNamed)
 TEST_F(DatabaseCheck, AWorkingCopyWithoutTheTablesIsReportedAndKept)
 {
     test::execSql(working(), "CREATE TABLE notes(text); INSERT INTO notes VALUES('mine')");
-    const std::string before = contents(working());
+    const std::string before = test::fileText(working());
     {
         MyDB db("Icons", paths, log);
         const auto problem = workingCopyProblem(db.dbPath());
@@ -84,13 +79,13 @@ TEST_F(DatabaseCheck, AWorkingCopyWithoutTheTablesIsReportedAndKept)
         EXPECT_NE(problem->message.find(working().string()), std::string::npos);
         EXPECT_NE(problem->message.find("به جای دیگری ببرید"), std::string::npos);
     }
-    EXPECT_EQ(contents(working()), before);
+    EXPECT_EQ(test::fileText(working()), before);
 
     // Moved aside, the next start begins afresh.
     fs::rename(working(), paths.documentsFolder() / "Icons.old");
     MyDB db("Icons", paths, log);
     EXPECT_EQ(workingCopyProblem(db.dbPath()), std::nullopt);
-    EXPECT_EQ(contents(paths.documentsFolder() / "Icons.old"), before);
+    EXPECT_EQ(test::fileText(paths.documentsFolder() / "Icons.old"), before);
 }
 
 TEST_F(DatabaseCheck, OnlyAnEmptyWorkingCopyIsReplaced)
@@ -102,15 +97,15 @@ TEST_F(DatabaseCheck, OnlyAnEmptyWorkingCopyIsReplaced)
         EXPECT_EQ(workingCopyProblem(db.dbPath()), std::nullopt);
         EXPECT_TRUE(db.ExecuteNonQuery("UPDATE tSetting SET Item6 = 5"));
     }
-    const std::string chosen = contents(working());
-    EXPECT_NE(chosen, contents(shipped));
+    const std::string chosen = test::fileText(working());
+    EXPECT_NE(chosen, test::fileText(shipped));
     MyDB again("Icons", paths, log);
-    EXPECT_EQ(contents(working()), chosen);
+    EXPECT_EQ(test::fileText(working()), chosen);
 
     // Not a database at all, but not empty either: it may be the user's, so it stays.
     write(working(), "something of the user's");
     MyDB third("Icons", paths, log);
-    EXPECT_EQ(contents(working()), "something of the user's");
+    EXPECT_EQ(test::fileText(working()), "something of the user's");
     EXPECT_TRUE(workingCopyProblem(third.dbPath()));
 }
 
@@ -125,7 +120,7 @@ TEST_F(DatabaseCheck, CopiesLeftByAnEarlierStartAreRemoved)
         names.push_back(entry.path().filename().string());
     std::sort(names.begin(), names.end());
     EXPECT_EQ(names, (std::vector<std::string>{"Icons", "Icons.old"}));
-    EXPECT_EQ(contents(working()), contents(shipped));
+    EXPECT_EQ(test::fileText(working()), test::fileText(shipped));
 }
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "platform/SoundFiles.h"
 #include "tests/support/RecordingAudioPlayer.h"
 #include "tests/unit/preferences/PreferencesFixture.h"
+#include "tests/support/FileText.h"
 
 #include <gtest/gtest.h>
 
@@ -21,18 +22,7 @@ protected:
     {
         for (int row = 0; row < SoundChoice::rowCount; ++row)
             if (row != SoundChoice::randomRow)
-                write(paths.resourceFolder() / SoundChoice::fileName(row), "shipped");
-    }
-
-    static void write(const std::filesystem::path& file, const std::string& text)
-    {
-        std::ofstream(file, std::ios::binary) << text;
-    }
-
-    static std::string read(const std::filesystem::path& file)
-    {
-        std::ifstream in(file, std::ios::binary);
-        return std::string(std::istreambuf_iterator<char>(in), {});
+                test::writeFileText(paths.resourceFolder() / SoundChoice::fileName(row), "shipped");
     }
 
     std::string resourceFile(int row) const { return (paths.resourceFolder() / SoundChoice::fileName(row)).string(); }
@@ -151,7 +141,7 @@ TEST_F(SoundChoiceTest, LabelsNameTheModesAndTheFixedRows)
 TEST_F(SoundChoiceTest, AnOwnRecordingIsCopiedUnderTheRowsNameAndPreferredFromThenOn)
 {
     const auto source = temp.path() / "my call.ogg";
-    write(source, "mine");
+    test::writeFileText(source, "mine");
     std::vector<std::filesystem::path> checked;
     const auto playable = [&checked](const std::filesystem::path& file) {
         checked.push_back(file);
@@ -160,7 +150,7 @@ TEST_F(SoundChoiceTest, AnOwnRecordingIsCopiedUnderTheRowsNameAndPreferredFromTh
     EXPECT_EQ(choice.useOwnRecording(7, source, playable), SoundChoice::OwnRecording::copied);
     EXPECT_EQ(checked, (std::vector<std::filesystem::path>{source}));
     const auto own = paths.documentsFolder() / "sounds" / "7.wav";
-    EXPECT_EQ(read(own), "mine");
+    EXPECT_EQ(test::fileText(own), "mine");
     EXPECT_EQ(soundFile(paths, "7.wav"), own);
     EXPECT_EQ(soundFile(paths, "8.wav"), paths.resourceFolder() / "8.wav");
 
@@ -168,16 +158,16 @@ TEST_F(SoundChoiceTest, AnOwnRecordingIsCopiedUnderTheRowsNameAndPreferredFromTh
     choice.didSelectRow(7);
     EXPECT_EQ(audio.calls, (Calls{"open " + own.string(), "play"}));
 
-    write(source, "newer");
+    test::writeFileText(source, "newer");
     EXPECT_EQ(choice.useOwnRecording(7, source, playable), SoundChoice::OwnRecording::copied);
-    EXPECT_EQ(read(own), "newer") << "a second choice replaces the first";
+    EXPECT_EQ(test::fileText(own), "newer") << "a second choice replaces the first";
     EXPECT_FALSE(std::filesystem::exists(own.string() + ".part"));
 }
 
 TEST_F(SoundChoiceTest, AnUnplayableFileOrTheRandomRowCopiesNothing)
 {
     const auto source = temp.path() / "notes.txt";
-    write(source, "not a sound");
+    test::writeFileText(source, "not a sound");
     int checks = 0;
     const auto refuse = [&checks](const std::filesystem::path&) {
         ++checks;
@@ -195,10 +185,10 @@ TEST_F(SoundChoiceTest, AFailedCopyKeepsTheRecordingThatWorked)
 {
     const auto folder = paths.documentsFolder() / "sounds";
     std::filesystem::create_directories(folder);
-    write(folder / "5.wav", "working");
+    test::writeFileText(folder / "5.wav", "working");
     const auto accept = [](const std::filesystem::path&) { return true; };
     EXPECT_EQ(choice.useOwnRecording(5, temp.path() / "gone.wav", accept), SoundChoice::OwnRecording::notCopied);
-    EXPECT_EQ(read(folder / "5.wav"), "working");
+    EXPECT_EQ(test::fileText(folder / "5.wav"), "working");
     EXPECT_FALSE(std::filesystem::exists(folder / "5.wav.part"));
 }
 
