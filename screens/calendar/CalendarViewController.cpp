@@ -201,7 +201,7 @@ void CalendarViewController::reloadData()
         // A long occasion is cut at the row's end; the whole text is a hover away.
         item->setToolTip(item->text());
         item->setFont(font);
-        item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        item->setTextAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
         item->setSizeHint(QSize(0, MonthGrid::rowHeight));
     }
 }

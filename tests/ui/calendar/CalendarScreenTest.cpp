@@ -13,9 +13,12 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QImage>
 #include <QLabel>
 #include <QListWidget>
 #include <QtTest>
+
+#include <algorithm>
 
 namespace kavenda {
 namespace {
@@ -25,6 +28,19 @@ using test::MainScreenFixture;
 // 20 Farvardin 1392 and 10 Tir 1392, at noon.
 const Instant farvardin20 = test::tehran(2013, 4, 9, 12, 0);
 const Instant tir10 = test::tehran(2013, 7, 1, 12, 0);
+
+// True when the row's text is drawn in the right half of the list, where Persian lines start.
+bool inkStartsRight(QListWidget* list, int row)
+{
+    const QImage image = list->viewport()->grab(list->visualItemRect(list->item(row))).toImage();
+    const QRgb background = image.pixel(image.width() / 2, 0);
+    int leftmostInk = image.width();
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qGray(image.pixel(x, y)) < qGray(background) - 96)
+                leftmostInk = std::min(leftmostInk, x);
+    return leftmostInk > image.width() / 2 && leftmostInk < image.width();
+}
 
 // The main screen on the generated database with Tehran chosen and the calendar's artwork.
 struct CalendarFixture {
@@ -168,6 +184,7 @@ private slots:
         c.tapDay(calendar, 18);
         QCOMPARE(c.rows(calendar), (QStringList{QStringLiteral("یکم"), QStringLiteral("دوم"), QStringLiteral("سوم")}));
         QCOMPARE(calendar.tblEvents()->visualItemRect(calendar.tblEvents()->item(1)).height(), 17);
+        QVERIFY2(inkStartsRight(calendar.tblEvents(), 0), "occasions read from the right edge");
         QCOMPARE(c.checkedDays(calendar), QList<int>{18});
         QCOMPARE(calendar.dayButtons().at(18)->accessibleName(), QStringLiteral("١٨، یکم، دوم، سوم"));
         c.f.saveScreenshot(QStringLiteral("calendar-1392-04-three-occasions.png"));
