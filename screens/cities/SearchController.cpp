@@ -1,5 +1,6 @@
 #include "screens/cities/SearchController.h"
 
+#include "platform/qt/RowChoice.h"
 #include "screens/cities/SearchControllerDelegate.h"
 #include "ui_SearchController.h"
 
@@ -17,8 +18,7 @@ SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
     connect(ui_->searchBar, &QLineEdit::textChanged, this, &SearchController::textDidChange);
     connect(ui_->cancelButton, &QPushButton::clicked, this, &SearchController::cancel);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &SearchController::cancel);
-    connect(ui_->tblResult, &QListWidget::itemClicked, this,
-            [this](QListWidgetItem* item) { pick(ui_->tblResult->row(item)); });
+    onRowChosen(ui_->tblResult, [this](int row) { pick(row); });
     // Enter picks the only candidate left.
     connect(ui_->searchBar, &QLineEdit::returnPressed, this, [this] {
         if (search_.count() == 1)

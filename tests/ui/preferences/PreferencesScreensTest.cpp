@@ -230,7 +230,10 @@ private slots:
         QVERIFY(screen->saveButton()->isEnabled());
         clickRow(list, 9);
         QCOMPARE(f.audio.calls, (Calls{"open " + wav(7), "play", "stop", "open " + wav(9)}));
-        clickRow(list, 8);
+        list->setCurrentRow(8);
+        QTest::keyClick(list, Qt::Key_Return);  // the keyboard's way to the same row
+        QCOMPARE(f.audio.calls.back(), std::string("play"));
+        QCOMPARE(screen->choice().selectedPath(), std::optional<int>(8));
         f.saveScreenshot(QStringLiteral("preferences-sounds.png"));
         f.audio.calls.clear();
         QVERIFY(f.showTab<HistoryViewController>(3));
@@ -321,6 +324,12 @@ private slots:
             clickRow(screen->tbl(), row);
         const std::string mail = "mailto:?to=" KAVENDA_SUPPORT_EMAIL "&subject=KavendaV1.5";
         QCOMPARE(f.urls.opened, (std::vector<std::string>{mail, mail, mail, mail, KAVENDA_HOMEPAGE}));
+        // the same rows from the keyboard
+        QVERIFY(screen->tbl()->focusPolicy() & Qt::TabFocus);
+        screen->tbl()->setCurrentRow(4);
+        QTest::keyClick(screen->tbl(), Qt::Key_Return);
+        QCOMPARE(f.urls.opened.back(), std::string(KAVENDA_HOMEPAGE));
+        QCOMPARE(f.urls.opened.size(), 6u);
         QCOMPARE(f.setting("Item0||Item1||Item2||Item3||Item4||Item5||Item6||Item7"), before);
     }
 
