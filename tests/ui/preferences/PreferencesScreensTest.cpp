@@ -302,6 +302,7 @@ private slots:
         picker->setFocus();
         QTest::keyClick(picker, Qt::Key_Up);
         QCOMPARE(picker->time(), QTime(9, 0));
+        QCOMPARE(picker->text(), QStringLiteral("٠٩:٠٠"));  // digits as everywhere else
         QVERIFY(screen->saveButton()->isEnabled());
         QTest::keyClick(picker, Qt::Key_Down);
         QVERIFY2(!screen->saveButton()->isEnabled(), "back at the stored time");
