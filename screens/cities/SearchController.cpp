@@ -5,6 +5,7 @@
 #include "ui_SearchController.h"
 
 #include <QShortcut>
+#include <QToolButton>
 
 namespace kavenda {
 
@@ -15,6 +16,9 @@ SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
     if (search_.isProvinceMode())
         ui_->searchBar->setPlaceholderText(tr("نام استان"));
     ui_->searchBar->setAccessibleName(ui_->searchBar->placeholderText());
+    // The field's clear button is Qt's own and comes without a name.
+    if (auto* clear = ui_->searchBar->findChild<QToolButton*>())
+        clear->setAccessibleName(tr("پاک کردن"));
     connect(ui_->searchBar, &QLineEdit::textChanged, this, &SearchController::textDidChange);
     connect(ui_->cancelButton, &QPushButton::clicked, this, &SearchController::cancel);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &SearchController::cancel);

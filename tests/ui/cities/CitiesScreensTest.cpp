@@ -475,6 +475,8 @@ private slots:
         QCOMPARE(field->text(QAccessible::Name), QStringLiteral("نام شهر یا استان"));
         QCOMPARE(accessibleName(f.search()->cancelButton()), QStringLiteral("انصراف"));
         QCOMPARE(accessibleName(f.search()->tblResult()), QStringLiteral("نتیجه جستجو"));
+        typeText(f.search()->searchBar(), QStringLiteral("تهر"));
+        QVERIFY2(childNames(f.search()->searchBar()).contains(QStringLiteral("پاک کردن")), "the field's clear button");
     }
 
     void doneRebuildsTheRemindersBeforeTheOptionsClose()
