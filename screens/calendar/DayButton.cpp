@@ -52,6 +52,9 @@ DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceF
     setChecked(cell.selected);
     setText(QString::fromStdString(Utility::ConvertToPersian(format("%i", {cell.place.day}))));
     setAccessibleName(accessibleNameOf(cell));
+    // A holiday is told by its colour alone; a screen reader says it in words.
+    if (cell.normalTitle == MonthGrid::holidayColour)
+        setAccessibleDescription(tr("تعطیل"));
     setGeometry(cell.x(), cell.y(), MonthGrid::buttonWidth, MonthGrid::buttonHeight);
     setCursor(Qt::PointingHandCursor);
     QFont title(QStringLiteral("Helvetica"));
