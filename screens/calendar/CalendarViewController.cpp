@@ -194,7 +194,7 @@ void CalendarViewController::reloadData()
 {
     QListWidget* table = ui_->tblEvents;
     table->clear();
-    QFont font(QStringLiteral("Helvetica"));
+    QFont font = table->font();
     font.setPixelSize(tableFontPixels);
     for (int row = 0; row < grid_.numberOfRows(); ++row) {
         auto* item = new QListWidgetItem(QString::fromStdString(grid_.cellText(row)), table);

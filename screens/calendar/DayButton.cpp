@@ -57,7 +57,8 @@ DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceF
         setAccessibleDescription(tr("تعطیل"));
     setGeometry(cell.x(), cell.y(), MonthGrid::buttonWidth, MonthGrid::buttonHeight);
     setCursor(Qt::PointingHandCursor);
-    QFont title(QStringLiteral("Helvetica"));
+    // The program's Persian face, whose digits have the Persian shapes the main screen shows.
+    QFont title = font();
     title.setPixelSize(titlePixels);
     setFont(title);
 }

@@ -187,6 +187,10 @@ private slots:
         QVERIFY2(inkStartsRight(calendar.tblEvents(), 0), "occasions read from the right edge");
         QCOMPARE(c.checkedDays(calendar), QList<int>{18});
         QCOMPARE(calendar.dayButtons().at(18)->accessibleName(), QStringLiteral("١٨، یکم، دوم، سوم"));
+        // the days and occasions in the program's own face, whose digits have the Persian shapes
+        const QString face = QFontInfo(QApplication::font()).family();
+        QCOMPARE(QFontInfo(calendar.dayButtons().at(18)->font()).family(), face);
+        QCOMPARE(QFontInfo(calendar.tblEvents()->item(0)->font()).family(), face);
         // 3 Tir 1392 is a holiday and 7 Tir a Friday; 4 Tir is neither
         for (const auto& [day, said] : {std::pair{3, "تعطیل"}, std::pair{7, "تعطیل"}, std::pair{4, ""}})
             QCOMPARE(QAccessible::queryAccessibleInterface(calendar.dayButtons().at(day))->text(QAccessible::Description),
