@@ -2,6 +2,8 @@
 
 #include "calendar/Utility.h"
 #include "data/Format.h"
+#include "platform/qt/AccessibleFactory.h"
+#include "screens/calendar/DayButtonAccessible.h"
 
 #include <QPainter>
 #include <QPixmapCache>
@@ -48,6 +50,7 @@ DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceF
       normalBackground_(image(resourceFolder, cell.normalBackground)),
       selectedBackground_(image(resourceFolder, cell.selectedBackground))
 {
+    installAccessibleInterface<DayButton, DayButtonAccessible>();
     setCheckable(true);
     setChecked(cell.selected);
     setText(QString::fromStdString(Utility::ConvertToPersian(format("%i", {cell.place.day}))));

@@ -191,6 +191,14 @@ private slots:
         const QString face = QFontInfo(QApplication::font()).family();
         QCOMPARE(QFontInfo(calendar.dayButtons().at(18)->font()).family(), face);
         QCOMPARE(QFontInfo(calendar.tblEvents()->item(0)->font()).family(), face);
+
+        // a screen reader's toggle picks the day as a tap does
+        QAccessibleInterface* day14 = QAccessible::queryAccessibleInterface(calendar.dayButtons().at(14));
+        QCOMPARE(day14->role(), QAccessible::CheckBox);
+        day14->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QCOMPARE(c.checkedDays(calendar), QList<int>{14});
+        QVERIFY(day14->state().checked);
+        QCOMPARE(c.rows(calendar), QStringList{QStringLiteral("روز قلم")});
         // 3 Tir 1392 is a holiday and 7 Tir a Friday; 4 Tir is neither
         for (const auto& [day, said] : {std::pair{3, "تعطیل"}, std::pair{7, "تعطیل"}, std::pair{4, ""}})
             QCOMPARE(QAccessible::queryAccessibleInterface(calendar.dayButtons().at(day))->text(QAccessible::Description),
