@@ -194,14 +194,14 @@ void CalendarViewController::reloadData()
 {
     QListWidget* table = ui_->tblEvents;
     table->clear();
-    QFont font(QStringLiteral("Helvetica"));
+    QFont font = table->font();
     font.setPixelSize(tableFontPixels);
     for (int row = 0; row < grid_.numberOfRows(); ++row) {
         auto* item = new QListWidgetItem(QString::fromStdString(grid_.cellText(row)), table);
         // A long occasion is cut at the row's end; the whole text is a hover away.
         item->setToolTip(item->text());
         item->setFont(font);
-        item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+        item->setTextAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
         item->setSizeHint(QSize(0, MonthGrid::rowHeight));
     }
 }

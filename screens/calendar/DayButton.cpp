@@ -2,6 +2,8 @@
 
 #include "calendar/Utility.h"
 #include "data/Format.h"
+#include "platform/qt/AccessibleFactory.h"
+#include "screens/calendar/DayButtonAccessible.h"
 
 #include <QPainter>
 #include <QPixmapCache>
@@ -48,13 +50,18 @@ DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceF
       normalBackground_(image(resourceFolder, cell.normalBackground)),
       selectedBackground_(image(resourceFolder, cell.selectedBackground))
 {
+    installAccessibleInterface<DayButton, DayButtonAccessible>();
     setCheckable(true);
     setChecked(cell.selected);
     setText(QString::fromStdString(Utility::ConvertToPersian(format("%i", {cell.place.day}))));
     setAccessibleName(accessibleNameOf(cell));
+    // A holiday is told by its colour alone; a screen reader says it in words.
+    if (cell.normalTitle == MonthGrid::holidayColour)
+        setAccessibleDescription(tr("تعطیل"));
     setGeometry(cell.x(), cell.y(), MonthGrid::buttonWidth, MonthGrid::buttonHeight);
     setCursor(Qt::PointingHandCursor);
-    QFont title(QStringLiteral("Helvetica"));
+    // The program's Persian face, whose digits have the Persian shapes the main screen shows.
+    QFont title = font();
     title.setPixelSize(titlePixels);
     setFont(title);
 }

@@ -1,9 +1,11 @@
 #include "screens/cities/SearchController.h"
 
+#include "platform/qt/RowChoice.h"
 #include "screens/cities/SearchControllerDelegate.h"
 #include "ui_SearchController.h"
 
 #include <QShortcut>
+#include <QToolButton>
 
 namespace kavenda {
 
@@ -14,11 +16,13 @@ SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
     if (search_.isProvinceMode())
         ui_->searchBar->setPlaceholderText(tr("نام استان"));
     ui_->searchBar->setAccessibleName(ui_->searchBar->placeholderText());
+    // The field's clear button is Qt's own and comes without a name.
+    if (auto* clear = ui_->searchBar->findChild<QToolButton*>())
+        clear->setAccessibleName(tr("پاک کردن"));
     connect(ui_->searchBar, &QLineEdit::textChanged, this, &SearchController::textDidChange);
     connect(ui_->cancelButton, &QPushButton::clicked, this, &SearchController::cancel);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &SearchController::cancel);
-    connect(ui_->tblResult, &QListWidget::itemClicked, this,
-            [this](QListWidgetItem* item) { pick(ui_->tblResult->row(item)); });
+    onRowChosen(ui_->tblResult, [this](int row) { pick(row); });
     // Enter picks the only candidate left.
     connect(ui_->searchBar, &QLineEdit::returnPressed, this, [this] {
         if (search_.count() == 1)

@@ -3,6 +3,7 @@
 #include "platform/Platform.h"
 #include "platform/UrlOpener.h"
 #include "platform/qt/NavigationStack.h"
+#include "platform/qt/RowChoice.h"
 #include "screens/cities/CitySearch.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
@@ -57,7 +58,7 @@ QListWidget* makeCreateRow(QWidget* parent)
     table->setFrameShape(QFrame::NoFrame);
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    table->setFocusPolicy(Qt::NoFocus);
+    table->setFocusPolicy(Qt::TabFocus);
     auto* item = new QListWidgetItem(table);
     item->setSizeHint(QSize(ChosenCities::listWidth, kCreateRowHeight));
     auto* row = new QWidget;
@@ -100,7 +101,7 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
     roundCorners(tblScrollView_, kCornerRadius);
 
     createNewCityTable_ = makeCreateRow(this);
-    connect(createNewCityTable_, &QListWidget::itemClicked, this, &SelectionController::NewCityControllerShow);
+    onRowChosen(createNewCityTable_, [this](int) { NewCityControllerShow(); });
 
     btnSearch_->hide();
     btnDone_->hide();

@@ -1,5 +1,6 @@
 #include "screens/preferences/AboutController.h"
 
+#include "platform/qt/RowChoice.h"
 #include "ui_AboutController.h"
 
 #include <QListWidget>
@@ -29,8 +30,7 @@ AboutController::AboutController(AboutRows rows, UrlOpener* urls, QWidget* paren
             item->setFlags(Qt::ItemIsEnabled);
     }
     layout_->tbl->setFixedHeight(kRowHeight * AboutRows::rowCount);
-    connect(layout_->tbl, &QListWidget::itemClicked, this,
-            [this](QListWidgetItem* item) { didSelectRow(layout_->tbl->row(item)); });
+    onRowChosen(layout_->tbl, [this](int row) { didSelectRow(row); });
 }
 
 AboutController::~AboutController() = default;

@@ -7,6 +7,7 @@
 #include "ui_HistoryViewController.h"
 
 #include <QLabel>
+#include <QLocale>
 #include <QSignalBlocker>
 #include <QTimeEdit>
 
@@ -25,6 +26,8 @@ HistoryViewController::HistoryViewController(MyDB& db, const Paths& paths, Log* 
     frame->setGeometry(layout_->picker->rect());
     frame->setAttribute(Qt::WA_TransparentForMouseEvents);
     frame->raise();
+    // The one locale whose digits are the program's Arabic-Indic ones; Latin digits still type.
+    layout_->picker->setLocale(QLocale(QLocale::Arabic, QLocale::Egypt));
 
     {
         const QSignalBlocker quiet(layout_->picker);

@@ -109,7 +109,7 @@ void SettingController::updateSliderName(int index)
     sliders_.at(index)->setAccessibleName(
         QStringLiteral("%1: %2 دقیقه قبل")
             .arg(QString::fromStdString(ReminderSettings::label(index + ReminderSettings::firstWarning)))
-            .arg(settings_.lead(index)));
+            .arg(QString::fromStdString(settings_.leadText(index))));
 }
 
 void SettingController::valueChanged(int item, bool on)

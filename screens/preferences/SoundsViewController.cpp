@@ -2,6 +2,7 @@
 
 #include "platform/Alerts.h"
 #include "platform/qt/PlayableAudio.h"
+#include "platform/qt/RowChoice.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SoundsViewController.h"
 
@@ -49,8 +50,7 @@ SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPl
     layout_->btnOwnFile->setAccessibleName(layout_->btnOwnFile->text());
     choice_.load();
     buildRows();
-    connect(layout_->tbl, &QListWidget::itemClicked, this,
-            [this](QListWidgetItem* item) { didSelectRow(layout_->tbl->row(item)); });
+    onRowChosen(layout_->tbl, [this](int row) { didSelectRow(row); });
     connect(saveButton_, &QPushButton::clicked, this, &SoundsViewController::save);
     connect(layout_->btnOwnFile, &QPushButton::clicked, this, &SoundsViewController::chooseOwnFile);
 }

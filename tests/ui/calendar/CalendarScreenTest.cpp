@@ -13,9 +13,12 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QImage>
 #include <QLabel>
 #include <QListWidget>
 #include <QtTest>
+
+#include <algorithm>
 
 namespace kavenda {
 namespace {
@@ -25,6 +28,19 @@ using test::MainScreenFixture;
 // 20 Farvardin 1392 and 10 Tir 1392, at noon.
 const Instant farvardin20 = test::tehran(2013, 4, 9, 12, 0);
 const Instant tir10 = test::tehran(2013, 7, 1, 12, 0);
+
+// True when the row's text is drawn in the right half of the list, where Persian lines start.
+bool inkStartsRight(QListWidget* list, int row)
+{
+    const QImage image = list->viewport()->grab(list->visualItemRect(list->item(row))).toImage();
+    const QRgb background = image.pixel(image.width() / 2, 0);
+    int leftmostInk = image.width();
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            if (qGray(image.pixel(x, y)) < qGray(background) - 96)
+                leftmostInk = std::min(leftmostInk, x);
+    return leftmostInk > image.width() / 2 && leftmostInk < image.width();
+}
 
 // The main screen on the generated database with Tehran chosen and the calendar's artwork.
 struct CalendarFixture {
@@ -168,8 +184,25 @@ private slots:
         c.tapDay(calendar, 18);
         QCOMPARE(c.rows(calendar), (QStringList{QStringLiteral("یکم"), QStringLiteral("دوم"), QStringLiteral("سوم")}));
         QCOMPARE(calendar.tblEvents()->visualItemRect(calendar.tblEvents()->item(1)).height(), 17);
+        QVERIFY2(inkStartsRight(calendar.tblEvents(), 0), "occasions read from the right edge");
         QCOMPARE(c.checkedDays(calendar), QList<int>{18});
         QCOMPARE(calendar.dayButtons().at(18)->accessibleName(), QStringLiteral("١٨، یکم، دوم، سوم"));
+        // the days and occasions in the program's own face, whose digits have the Persian shapes
+        const QString face = QFontInfo(QApplication::font()).family();
+        QCOMPARE(QFontInfo(calendar.dayButtons().at(18)->font()).family(), face);
+        QCOMPARE(QFontInfo(calendar.tblEvents()->item(0)->font()).family(), face);
+
+        // a screen reader's toggle picks the day as a tap does
+        QAccessibleInterface* day14 = QAccessible::queryAccessibleInterface(calendar.dayButtons().at(14));
+        QCOMPARE(day14->role(), QAccessible::CheckBox);
+        day14->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QCOMPARE(c.checkedDays(calendar), QList<int>{14});
+        QVERIFY(day14->state().checked);
+        QCOMPARE(c.rows(calendar), QStringList{QStringLiteral("روز قلم")});
+        // 3 Tir 1392 is a holiday and 7 Tir a Friday; 4 Tir is neither
+        for (const auto& [day, said] : {std::pair{3, "تعطیل"}, std::pair{7, "تعطیل"}, std::pair{4, ""}})
+            QCOMPARE(QAccessible::queryAccessibleInterface(calendar.dayButtons().at(day))->text(QAccessible::Description),
+                     QString::fromUtf8(said));
         c.f.saveScreenshot(QStringLiteral("calendar-1392-04-three-occasions.png"));
     }
 

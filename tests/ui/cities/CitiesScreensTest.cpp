@@ -341,6 +341,33 @@ private slots:
         QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));
     }
 
+    // Enter on a focused row reaches what a tap reaches, for keyboard and screen-reader users.
+    void theKeyboardPicksAResultAndOpensTheNewCityEditor()
+    {
+        OptionsFixture f;
+        f.choose({tehran});
+        f.open();
+        QTest::mouseClick(f.selection()->btnSearch(), Qt::LeftButton);
+        SearchController* search = f.search();
+        QVERIFY(search);
+        typeText(search->searchBar(), QStringLiteral("\u0627\u0646"));
+        QListWidget* results = search->tblResult();
+        QCOMPARE(results->count(), 4);
+        results->setFocus();
+        results->setCurrentItem(results->findItems(QStringLiteral("کرمان (کرمان)"), Qt::MatchExactly).value(0));
+        QTest::keyClick(results, Qt::Key_Return);
+        QCOMPARE(f.navigation()->top(), f.selection());
+        QCOMPARE(f.orderings(), (QStringList{QStringLiteral("32:0"), QStringLiteral("35:2")}));
+
+        QListWidget* createRow = f.selection()->createNewCityTable();
+        QVERIFY(createRow->focusPolicy() & Qt::TabFocus);
+        createRow->setFocus(Qt::TabFocusReason);
+        createRow->setCurrentRow(0);
+        QTest::keyClick(createRow, Qt::Key_Enter);
+        QTRY_VERIFY(f.navigation()->top() != f.selection());
+        QCOMPARE(f.navigation()->top()->metaObject()->className(), "kavenda::NewCityController");
+    }
+
     // More rows than the holder shows: its bar stands beside the rows' controls, not over them.
     void aLongListScrollsBesideItsRows()
     {
@@ -448,6 +475,8 @@ private slots:
         QCOMPARE(field->text(QAccessible::Name), QStringLiteral("نام شهر یا استان"));
         QCOMPARE(accessibleName(f.search()->cancelButton()), QStringLiteral("انصراف"));
         QCOMPARE(accessibleName(f.search()->tblResult()), QStringLiteral("نتیجه جستجو"));
+        typeText(f.search()->searchBar(), QStringLiteral("تهر"));
+        QVERIFY2(childNames(f.search()->searchBar()).contains(QStringLiteral("پاک کردن")), "the field's clear button");
     }
 
     void doneRebuildsTheRemindersBeforeTheOptionsClose()

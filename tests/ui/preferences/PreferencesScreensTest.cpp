@@ -175,7 +175,7 @@ private slots:
         QVERIFY(screen->sliderRow(2)->isVisible());
         QTest::keyClick(screen->slider(2), Qt::Key_End);
         QCOMPARE(screen->number(2)->text(), QStringLiteral("٦٠"));
-        QVERIFY(screen->slider(2)->accessibleName().contains(QStringLiteral("60")));
+        QCOMPARE(screen->slider(2)->accessibleName(), QStringLiteral("وقت افطار: ٦٠ دقیقه قبل"));
         QTest::keyClick(screen->slider(0), Qt::Key_Home);
         QCOMPARE(screen->number(0)->text(), QStringLiteral("٥"));
         f.saveScreenshot(QStringLiteral("preferences-settings.png"));
@@ -230,7 +230,10 @@ private slots:
         QVERIFY(screen->saveButton()->isEnabled());
         clickRow(list, 9);
         QCOMPARE(f.audio.calls, (Calls{"open " + wav(7), "play", "stop", "open " + wav(9)}));
-        clickRow(list, 8);
+        list->setCurrentRow(8);
+        QTest::keyClick(list, Qt::Key_Return);  // the keyboard's way to the same row
+        QCOMPARE(f.audio.calls.back(), std::string("play"));
+        QCOMPARE(screen->choice().selectedPath(), std::optional<int>(8));
         f.saveScreenshot(QStringLiteral("preferences-sounds.png"));
         f.audio.calls.clear();
         QVERIFY(f.showTab<HistoryViewController>(3));
@@ -299,6 +302,7 @@ private slots:
         picker->setFocus();
         QTest::keyClick(picker, Qt::Key_Up);
         QCOMPARE(picker->time(), QTime(9, 0));
+        QCOMPARE(picker->text(), QStringLiteral("٠٩:٠٠"));  // digits as everywhere else
         QVERIFY(screen->saveButton()->isEnabled());
         QTest::keyClick(picker, Qt::Key_Down);
         QVERIFY2(!screen->saveButton()->isEnabled(), "back at the stored time");
@@ -321,6 +325,12 @@ private slots:
             clickRow(screen->tbl(), row);
         const std::string mail = "mailto:?to=" KAVENDA_SUPPORT_EMAIL "&subject=KavendaV1.5";
         QCOMPARE(f.urls.opened, (std::vector<std::string>{mail, mail, mail, mail, KAVENDA_HOMEPAGE}));
+        // the same rows from the keyboard
+        QVERIFY(screen->tbl()->focusPolicy() & Qt::TabFocus);
+        screen->tbl()->setCurrentRow(4);
+        QTest::keyClick(screen->tbl(), Qt::Key_Return);
+        QCOMPARE(f.urls.opened.back(), std::string(KAVENDA_HOMEPAGE));
+        QCOMPARE(f.urls.opened.size(), 6u);
         QCOMPARE(f.setting("Item0||Item1||Item2||Item3||Item4||Item5||Item6||Item7"), before);
     }
 
