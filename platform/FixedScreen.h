@@ -7,12 +7,12 @@ namespace kavenda {
 // The screen the program runs as: the usual height, or the tall one of --tall.
 class FixedScreen final : public Screen {
 public:
-    static constexpr int kUsualHeight = 480;
-    static constexpr int kTallHeight = 568;
+    static constexpr int usualHeight = 480;
+    static constexpr int tallHeight = 568;
 
-    explicit FixedScreen(bool tall = false) : height_(tall ? kTallHeight : kUsualHeight) {}
+    explicit FixedScreen(bool tall = false) : height_(tall ? tallHeight : usualHeight) {}
     int boundsHeight() const override { return height_; }
-    void setTall(bool tall) { height_ = tall ? kTallHeight : kUsualHeight; }
+    void setTall(bool tall) { height_ = tall ? tallHeight : usualHeight; }
 
 private:
     int height_;

@@ -9,7 +9,7 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kFlipMilliseconds = 450;
+constexpr int flipMilliseconds = 450;
 
 }  // namespace
 
@@ -18,7 +18,7 @@ FlipTransition::FlipTransition(QWidget* parent, QPixmap from, QPixmap to, bool f
     setGeometry(parent->rect());
     animation_.setStartValue(0.0);
     animation_.setEndValue(1.0);
-    animation_.setDuration(kFlipMilliseconds);
+    animation_.setDuration(flipMilliseconds);
     animation_.setEasingCurve(QEasingCurve::InOutQuad);
     connect(&animation_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
         progress_ = value.toDouble();

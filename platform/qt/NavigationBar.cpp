@@ -9,12 +9,12 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kButtonMargin = 6;
+constexpr int buttonMargin = 6;
 
 }  // namespace
 
 NavigationBar::NavigationBar(QWidget* parent) : QWidget(parent), title_(new QLabel(this)) {
-    setFixedHeight(kHeight);
+    setFixedHeight(barHeight);
     title_->setAlignment(Qt::AlignCenter);
     QFont font = title_->font();
     font.setBold(true);
@@ -65,15 +65,15 @@ void NavigationBar::paintEvent(QPaintEvent*) {
 void NavigationBar::place() {
     title_->setGeometry(rect());
     const auto size = [this](QAbstractButton* button) {
-        return button->sizeHint().boundedTo(QSize(width() / 3, height() - 2 * kButtonMargin));
+        return button->sizeHint().boundedTo(QSize(width() / 3, height() - 2 * buttonMargin));
     };
     if (left_) {
         const QSize s = size(left_);
-        left_->setGeometry(kButtonMargin, (height() - s.height()) / 2, s.width(), s.height());
+        left_->setGeometry(buttonMargin, (height() - s.height()) / 2, s.width(), s.height());
     }
     if (right_) {
         const QSize s = size(right_);
-        right_->setGeometry(width() - kButtonMargin - s.width(), (height() - s.height()) / 2, s.width(), s.height());
+        right_->setGeometry(width() - buttonMargin - s.width(), (height() - s.height()) / 2, s.width(), s.height());
     }
 }
 

@@ -14,7 +14,7 @@ class NavigationBar : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int kHeight = 44;
+    static constexpr int barHeight = 44;
 
     explicit NavigationBar(QWidget* parent = nullptr);
 

@@ -12,13 +12,13 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kSlideMilliseconds = 300;
+constexpr int slideMilliseconds = 300;
 
 }  // namespace
 
 NavigationStack::NavigationStack(QWidget* parent)
     : QWidget(parent), bar_(new NavigationBar(this)), content_(new QWidget(this)),
-      barHeight_(NavigationBar::kHeight) {}
+      barHeight_(NavigationBar::barHeight) {}
 
 void NavigationStack::push(QWidget* screen, bool animated) {
     QWidget* below = top();
@@ -80,7 +80,7 @@ void NavigationStack::setNavigationBarHidden(bool hidden, bool animated) {
     if (barAnimation_)
         barAnimation_->stop();
     barHidden_ = hidden;
-    const int height = hidden ? 0 : NavigationBar::kHeight;
+    const int height = hidden ? 0 : NavigationBar::barHeight;
     if (!animated || !animationsEnabled() || !isVisible()) {
         barHeight_ = height;
         layoutContent();
@@ -89,7 +89,7 @@ void NavigationStack::setNavigationBarHidden(bool hidden, bool animated) {
     auto* animation = new QVariantAnimation(this);
     animation->setStartValue(barHeight_);
     animation->setEndValue(height);
-    animation->setDuration(kSlideMilliseconds);
+    animation->setDuration(slideMilliseconds);
     connect(animation, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
         barHeight_ = value.toInt();
         layoutContent();
@@ -144,7 +144,7 @@ void NavigationStack::showTop() {
 
 void NavigationStack::layoutContent() {
     bar_->setVisible(barHeight_ > 0);
-    bar_->setGeometry(0, barHeight_ - NavigationBar::kHeight, width(), NavigationBar::kHeight);
+    bar_->setGeometry(0, barHeight_ - NavigationBar::barHeight, width(), NavigationBar::barHeight);
     content_->setGeometry(0, barHeight_, width(), height() - barHeight_);
     for (QWidget* screen : screens_)
         screen->setGeometry(content_->rect());
@@ -154,7 +154,7 @@ void NavigationStack::slide(QWidget* screen, int fromX, int toX, std::function<v
     auto* animation = new QPropertyAnimation(screen, "pos", screen);
     animation->setStartValue(QPoint(fromX, 0));
     animation->setEndValue(QPoint(toX, 0));
-    animation->setDuration(kSlideMilliseconds);
+    animation->setDuration(slideMilliseconds);
     animation->setEasingCurve(QEasingCurve::OutCubic);
     connect(animation, &QAbstractAnimation::finished, this, std::move(done));
     animation->start(QAbstractAnimation::DeleteWhenStopped);

@@ -14,8 +14,8 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kDot = 7;
-constexpr int kGap = 9;
+constexpr int dot = 7;
+constexpr int gap = 9;
 
 }  // namespace
 
@@ -49,7 +49,7 @@ int PageIndicator::currentPage() const { return current_; }
 
 // Each dot owns the gap around it; beside the row of dots a click steps one page that way.
 int PageIndicator::pageAt(double x) const {
-    const double column = std::floor((x - dotsLeft() + kGap / 2.0) / (kDot + kGap));
+    const double column = std::floor((x - dotsLeft() + gap / 2.0) / (dot + gap));
     if (column < 0)
         return std::max(0, current_ - 1);
     if (column >= pages_)
@@ -64,15 +64,15 @@ void PageIndicator::choosePage(int page) {
         emit valueChanged(current_);
 }
 
-QSize PageIndicator::sizeHint() const { return {pages_ * (kDot + kGap) + kGap, kDot + 2 * kGap}; }
+QSize PageIndicator::sizeHint() const { return {pages_ * (dot + gap) + gap, dot + 2 * gap}; }
 
 int PageIndicator::dotsLeft() const {
-    const int span = pages_ * kDot + (pages_ - 1) * kGap;
+    const int span = pages_ * dot + (pages_ - 1) * gap;
     return (width() - span) / 2;
 }
 
 QRect PageIndicator::dotRect(int page) const {
-    return {dotsLeft() + page * (kDot + kGap), (height() - kDot) / 2, kDot, kDot};
+    return {dotsLeft() + page * (dot + gap), (height() - dot) / 2, dot, dot};
 }
 
 // Dots run left to right in page order, like the pages themselves.
@@ -85,7 +85,7 @@ void PageIndicator::paintEvent(QPaintEvent*) {
         painter.setPen(QPen(QColor(255, 255, 255, 150), 1.0));
         painter.setBrush(Qt::NoBrush);
         const QRectF dots = QRectF(dotRect(0)).united(dotRect(pages_ - 1));
-        painter.drawRoundedRect(dots.adjusted(-kGap / 2.0, -kGap / 2.0, kGap / 2.0, kGap / 2.0), 7, 7);
+        painter.drawRoundedRect(dots.adjusted(-gap / 2.0, -gap / 2.0, gap / 2.0, gap / 2.0), 7, 7);
     }
     painter.setPen(Qt::NoPen);
     for (int i = 0; i < pages_; ++i) {

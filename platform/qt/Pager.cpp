@@ -13,7 +13,7 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kSettleMilliseconds = 250;
+constexpr int settleMilliseconds = 250;
 
 }  // namespace
 
@@ -51,7 +51,7 @@ void Pager::setContentOffset(double x, bool animated) {
     auto* animation = new QVariantAnimation(this);
     animation->setStartValue(offset_);
     animation->setEndValue(x);
-    animation->setDuration(kSettleMilliseconds);
+    animation->setDuration(settleMilliseconds);
     animation->setEasingCurve(QEasingCurve::OutCubic);
     connect(animation, &QVariantAnimation::valueChanged, this,
             [this](const QVariant& value) { moveTo(value.toDouble()); });
@@ -62,12 +62,12 @@ void Pager::setContentOffset(double x, bool animated) {
 
 double Pager::contentOffset() const { return offset_; }
 
-int Pager::contentWidth() const { return kPageWidth * static_cast<int>(pages_.size()); }
+int Pager::contentWidth() const { return pageWidth * static_cast<int>(pages_.size()); }
 
 int Pager::currentPage() const {
     if (pages_.isEmpty())
         return 0;
-    const int page = static_cast<int>(std::lround(offset_ / kPageWidth));
+    const int page = static_cast<int>(std::lround(offset_ / pageWidth));
     return std::clamp(page, 0, static_cast<int>(pages_.size()) - 1);
 }
 
@@ -122,7 +122,7 @@ void Pager::moveTo(double x) {
 }
 
 void Pager::snapTo(int page) {
-    setContentOffset(static_cast<double>(page) * kPageWidth, true);
+    setContentOffset(static_cast<double>(page) * pageWidth, true);
     if (!animation_)
         emit didEndScrolling(page);
 }
@@ -139,7 +139,7 @@ void Pager::layoutPages() {
     const int height = viewport()->height();
     content_->setGeometry(static_cast<int>(-std::lround(offset_)), 0, std::max(contentWidth(), viewport()->width()), height);
     for (int i = 0; i < pages_.size(); ++i)
-        pages_[i]->setGeometry(kPageWidth * i, 0, kPageWidth, height);
+        pages_[i]->setGeometry(pageWidth * i, 0, pageWidth, height);
 }
 
 }  // namespace kavenda

@@ -14,7 +14,7 @@ class Pager : public QAbstractScrollArea {
     Q_OBJECT
 
 public:
-    static constexpr int kPageWidth = 320;
+    static constexpr int pageWidth = 320;
 
     explicit Pager(QWidget* parent = nullptr);
 

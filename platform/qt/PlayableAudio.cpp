@@ -11,7 +11,7 @@ namespace kavenda {
 namespace {
 
 // Loading is asynchronous; a file that neither loads nor fails by then counts as unplayable.
-constexpr int kLoadTimeoutMilliseconds = 10000;
+constexpr int loadTimeoutMilliseconds = 10000;
 
 bool settled(QMediaPlayer::MediaStatus status)
 {
@@ -32,7 +32,7 @@ bool isPlayableAudio(const std::filesystem::path& file)
             loop.quit();
     });
     QObject::connect(&player, &QMediaPlayer::errorOccurred, &loop, &QEventLoop::quit);
-    QTimer::singleShot(kLoadTimeoutMilliseconds, &loop, &QEventLoop::quit);
+    QTimer::singleShot(loadTimeoutMilliseconds, &loop, &QEventLoop::quit);
     player.setSource(QUrl::fromLocalFile(info.absoluteFilePath()));
     if (!settled(player.mediaStatus()) && player.error() == QMediaPlayer::NoError)
         loop.exec();

@@ -9,7 +9,7 @@ namespace kavenda {
 namespace {
 
 // Looking again at least this often keeps the service right across suspend and clock changes.
-constexpr std::chrono::milliseconds kLongestWait{60'000};
+constexpr std::chrono::milliseconds longestWait{60'000};
 
 }  // namespace
 
@@ -51,7 +51,7 @@ void QtNotificationService::rearm() {
         return;
     }
     const auto wait = std::clamp(std::chrono::duration_cast<std::chrono::milliseconds>(*next - clock_.now()),
-                                 std::chrono::milliseconds{0}, kLongestWait);
+                                 std::chrono::milliseconds{0}, longestWait);
     timer_.start(wait);
 }
 

@@ -12,9 +12,9 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kIconSize = 26;
+constexpr int iconSize = 26;
 
-const char* const kBarStyle = R"(
+const char* const barStyle = R"(
 #tabBar { background: qlineargradient(x1:0, y1:0, x2:0, y2:1, stop:0 #3a3a3a, stop:1 #141414); }
 #tabBar QToolButton { color: #9a9a9a; border: none; border-radius: 4px; margin: 2px; font-size: 10px; }
 #tabBar QToolButton:checked { color: white; background: rgba(255, 255, 255, 36); }
@@ -28,8 +28,8 @@ TabBarController::TabBarController(QWidget* parent)
       barLayout_(new QHBoxLayout(bar_)), group_(new QButtonGroup(this)) {
     bar_->setObjectName(QStringLiteral("tabBar"));
     bar_->setAttribute(Qt::WA_StyledBackground);
-    bar_->setStyleSheet(QString::fromLatin1(kBarStyle));
-    bar_->setFixedHeight(kBarHeight);
+    bar_->setStyleSheet(QString::fromLatin1(barStyle));
+    bar_->setFixedHeight(barHeight);
     barLayout_->setContentsMargins(0, 0, 0, 0);
     barLayout_->setSpacing(0);
     auto* layout = new QVBoxLayout(this);
@@ -46,7 +46,7 @@ int TabBarController::addTab(QWidget* page, const QString& title, const QIcon& i
     auto* button = new TabBarButton(bar_);
     button->setText(title);
     button->setIcon(icon);
-    button->setIconSize(QSize(kIconSize, kIconSize));
+    button->setIconSize(QSize(iconSize, iconSize));
     button->setToolButtonStyle(icon.isNull() ? Qt::ToolButtonTextOnly : Qt::ToolButtonTextUnderIcon);
     button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     button->setChecked(index == pages_->currentIndex());

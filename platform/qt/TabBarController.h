@@ -16,7 +16,7 @@ class TabBarController : public QWidget {
     Q_OBJECT
 
 public:
-    static constexpr int kBarHeight = 49;
+    static constexpr int barHeight = 49;
 
     explicit TabBarController(QWidget* parent = nullptr);
 

@@ -10,8 +10,8 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kSlideMilliseconds = 150;
-constexpr int kMargin = 2;
+constexpr int slideMilliseconds = 150;
+constexpr int margin = 2;
 
 }  // namespace
 
@@ -20,7 +20,7 @@ ToggleSwitch::ToggleSwitch(QWidget* parent) : QAbstractButton(parent) {
     setCheckable(true);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
-    animation_.setDuration(kSlideMilliseconds);
+    animation_.setDuration(slideMilliseconds);
     connect(&animation_, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
         knob_ = value.toDouble();
         update();
@@ -68,10 +68,10 @@ void ToggleSwitch::paintEvent(QPaintEvent*) {
     painter.setBrush(isEnabled() ? fill : fill.lighter(115));
     painter.drawRoundedRect(track, radius, radius);
     // "On" is the end where reading finishes.
-    const double diameter = track.height() - 2 * kMargin;
-    const double travel = track.width() - diameter - 2 * kMargin;
+    const double diameter = track.height() - 2 * margin;
+    const double travel = track.width() - diameter - 2 * margin;
     const double along = isRightToLeft() ? 1.0 - knob_ : knob_;
-    const QRectF knob(track.left() + kMargin + travel * along, track.top() + kMargin, diameter, diameter);
+    const QRectF knob(track.left() + margin + travel * along, track.top() + margin, diameter, diameter);
     painter.setPen(QPen(QColor(0, 0, 0, 50), 1.0));
     painter.setBrush(Qt::white);
     painter.drawEllipse(knob);

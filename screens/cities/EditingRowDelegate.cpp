@@ -10,9 +10,9 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kControlSize = 22;
-constexpr int kEdgeMargin = 10;
-constexpr int kConfirmWidth = 64;
+constexpr int controlSize = 22;
+constexpr int edgeMargin = 10;
+constexpr int confirmWidth = 64;
 
 // A rectangle given for left-to-right, placed for the row's direction.
 QRect placed(Qt::LayoutDirection direction, const QRect& row, const QRect& logical)
@@ -28,19 +28,19 @@ EditingRowDelegate::EditingRowDelegate(EditableCityList* list) : QStyledItemDele
 
 QRect EditingRowDelegate::deleteControlRect(const QRect& row, Qt::LayoutDirection direction)
 {
-    const QRect logical(row.left() + kEdgeMargin, row.center().y() - kControlSize / 2 + 1, kControlSize, kControlSize);
+    const QRect logical(row.left() + edgeMargin, row.center().y() - controlSize / 2 + 1, controlSize, controlSize);
     return placed(direction, row, logical);
 }
 
 QRect EditingRowDelegate::gripRect(const QRect& row, Qt::LayoutDirection direction)
 {
-    const QRect logical(row.right() - kEdgeMargin - kControlSize + 1, row.top(), kControlSize, row.height());
+    const QRect logical(row.right() - edgeMargin - controlSize + 1, row.top(), controlSize, row.height());
     return placed(direction, row, logical);
 }
 
 QRect EditingRowDelegate::confirmRect(const QRect& row, Qt::LayoutDirection direction)
 {
-    const QRect logical(row.right() - kEdgeMargin - kConfirmWidth + 1, row.top() + 7, kConfirmWidth, row.height() - 14);
+    const QRect logical(row.right() - edgeMargin - confirmWidth + 1, row.top() + 7, confirmWidth, row.height() - 14);
     return placed(direction, row, logical);
 }
 
@@ -58,9 +58,9 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 
     // The text sits between the two controls.
     QStyleOptionViewItem text(option);
-    const int trailing = confirming ? kConfirmWidth : kControlSize;
+    const int trailing = confirming ? confirmWidth : controlSize;
     text.rect = placed(direction, row,
-                       row.adjusted(2 * kEdgeMargin + kControlSize, 0, -(2 * kEdgeMargin + trailing), 0));
+                       row.adjusted(2 * edgeMargin + controlSize, 0, -(2 * edgeMargin + trailing), 0));
     text.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
     QStyledItemDelegate::paint(painter, text, index);
 

@@ -25,11 +25,11 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kCornerRadius = 7;
-constexpr int kListX = 4;
-constexpr int kListY = 5;
-constexpr int kCreateRowY = 319;
-constexpr int kCreateRowHeight = 43;
+constexpr int cornerRadius = 7;
+constexpr int listX = 4;
+constexpr int listY = 5;
+constexpr int createRowY = 319;
+constexpr int createRowHeight = 43;
 
 // A slim bar in the strip beside the list's content, over the same white as the rows.
 const char* const scrollerStyle = R"(
@@ -54,13 +54,13 @@ Container* enclosing(const QWidget* widget)
 QListWidget* makeCreateRow(QWidget* parent)
 {
     auto* table = new QListWidget(parent);
-    table->setGeometry(kListX, kCreateRowY, ChosenCities::listWidth, kCreateRowHeight);
+    table->setGeometry(listX, createRowY, ChosenCities::listWidth, createRowHeight);
     table->setFrameShape(QFrame::NoFrame);
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->setFocusPolicy(Qt::TabFocus);
     auto* item = new QListWidgetItem(table);
-    item->setSizeHint(QSize(ChosenCities::listWidth, kCreateRowHeight));
+    item->setSizeHint(QSize(ChosenCities::listWidth, createRowHeight));
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(14, 0, 12, 0);
@@ -74,7 +74,7 @@ QListWidget* makeCreateRow(QWidget* parent)
     disclosure->setStyleSheet("color: #a0a0a0; font-size: 20px;");
     layout->addWidget(disclosure);
     table->setItemWidget(item, row);
-    roundCorners(table, kCornerRadius);
+    roundCorners(table, cornerRadius);
     return table;
 }
 
@@ -91,14 +91,14 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
     page.setColor(QPalette::Window, QColor(0xd6, 0xda, 0xe2));
     setPalette(page);
 
-    tblScrollView_->setGeometry(kListX, kListY, ChosenCities::listWidth, ChosenCities::minimumListHeight);
+    tblScrollView_->setGeometry(listX, listY, ChosenCities::listWidth, ChosenCities::minimumListHeight);
     tblScrollView_->setFrameShape(QFrame::NoFrame);
     tblScrollView_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     tblScrollView_->setStyleSheet(QString::fromLatin1(scrollerStyle));
     tblScrollView_->setWidget(listHolder_);
     tblScrollView_->setAccessibleName(tr("شهرهای انتخاب شده"));
     tbl_->setAccessibleName(tr("شهرهای انتخاب شده"));
-    roundCorners(tblScrollView_, kCornerRadius);
+    roundCorners(tblScrollView_, cornerRadius);
 
     createNewCityTable_ = makeCreateRow(this);
     onRowChosen(createNewCityTable_, [this](int) { NewCityControllerShow(); });

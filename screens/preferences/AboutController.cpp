@@ -11,7 +11,7 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kRowHeight = 44;
+constexpr int rowHeight = 44;
 
 }  // namespace
 
@@ -22,14 +22,14 @@ AboutController::AboutController(AboutRows rows, UrlOpener* urls, QWidget* paren
     for (int row = 0; row < AboutRows::rowCount; ++row) {
         const QString text = QString::fromStdString(rows_.text(row));
         auto* item = new QListWidgetItem(text, layout_->tbl);
-        item->setSizeHint(QSize(0, kRowHeight));
+        item->setSizeHint(QSize(0, rowHeight));
         item->setData(Qt::AccessibleTextRole, text.simplified());
         item->setTextAlignment(AboutRows::isCentred(row) ? Qt::AlignCenter
                                                          : Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
         if (!AboutRows::highlightsOnTap(row))
             item->setFlags(Qt::ItemIsEnabled);
     }
-    layout_->tbl->setFixedHeight(kRowHeight * AboutRows::rowCount);
+    layout_->tbl->setFixedHeight(rowHeight * AboutRows::rowCount);
     onRowChosen(layout_->tbl, [this](int row) { didSelectRow(row); });
 }
 

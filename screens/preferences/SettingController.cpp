@@ -18,9 +18,9 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kRowHeight = 44;
-constexpr int kSlideMilliseconds = 250;
-constexpr int kFadeMilliseconds = 250;
+constexpr int rowHeight = 44;
+constexpr int slideMilliseconds = 250;
+constexpr int fadeMilliseconds = 250;
 
 QLabel* makeLabel(const QString& text, int pixelSize, QWidget* parent)
 {
@@ -65,7 +65,7 @@ SettingController::~SettingController() = default;
 QWidget* SettingController::makeSwitchRow(int item, QWidget* parent)
 {
     auto* row = new QWidget(parent);
-    row->setFixedHeight(kRowHeight);
+    row->setFixedHeight(rowHeight);
     auto* line = new QHBoxLayout(row);
     line->setContentsMargins(12, 0, 10, 0);
     const QString label = QString::fromStdString(ReminderSettings::label(item));
@@ -83,7 +83,7 @@ QWidget* SettingController::makeSwitchRow(int item, QWidget* parent)
 QWidget* SettingController::makeSliderRow(int index, QWidget* parent)
 {
     auto* row = new QWidget(parent);
-    row->setFixedHeight(kRowHeight);
+    row->setFixedHeight(rowHeight);
     auto* line = new QHBoxLayout(row);
     line->setContentsMargins(12, 0, 14, 0);
     auto* number = makeLabel(QString::fromStdString(settings_.leadText(index)), 18, row);
@@ -135,22 +135,22 @@ void SettingController::showSliderRow(int index, bool shown, bool animated)
     animated = animated && animationsEnabled() && isVisible();
     if (!shown) {
         if (animated)
-            fade(row, false, kFadeMilliseconds, QEasingCurve::Linear);
+            fade(row, false, fadeMilliseconds, QEasingCurve::Linear);
         else
             row->hide();
         return;
     }
     // The row comes down from under its switch.
     row->setGraphicsEffect(nullptr);
-    row->setFixedHeight(kRowHeight);
+    row->setFixedHeight(rowHeight);
     row->show();
     if (!animated)
         return;
     row->setFixedHeight(0);
     auto* slide = new QVariantAnimation(row);
-    slide->setDuration(kSlideMilliseconds);
+    slide->setDuration(slideMilliseconds);
     slide->setStartValue(0);
-    slide->setEndValue(kRowHeight);
+    slide->setEndValue(rowHeight);
     connect(slide, &QVariantAnimation::valueChanged, row,
             [row](const QVariant& height) { row->setFixedHeight(height.toInt()); });
     slide->start(QAbstractAnimation::DeleteWhenStopped);

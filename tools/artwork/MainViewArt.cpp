@@ -11,9 +11,9 @@ namespace kavenda::artwork {
 namespace {
 
 // Where the page's labels stand: the time values from x 35, a row every 38 points from y 108.
-constexpr int kFirstRowY = 108;
-constexpr int kRowStep = 38;
-constexpr int kRowHeight = 40;
+constexpr int firstRowY = 108;
+constexpr int rowStep = 38;
+constexpr int rowHeight = 40;
 
 QString caption(int row) {
     return QString::fromUtf8(timeCaptions[static_cast<std::size_t>(row)]);
@@ -49,9 +49,9 @@ void paintInfoPanel(QPainter& painter) {
 }
 
 void paintRow(QPainter& painter, int row) {
-    const double top = kFirstRowY + kRowStep * row;
+    const double top = firstRowY + rowStep * row;
     const bool tomorrow = row >= 6;
-    const QRectF frame(12.5, top + 4.5, 295, kRowHeight - 9);
+    const QRectF frame(12.5, top + 4.5, 295, rowHeight - 9);
     QLinearGradient fill(frame.topLeft(), frame.bottomLeft());
     const QColor tint = tomorrow ? QColor(0xe8, 0xb8, 0x6a) : QColor(255, 255, 255);
     fill.setColorAt(0.0, QColor(tint.red(), tint.green(), tint.blue(), 40));
@@ -62,12 +62,12 @@ void paintRow(QPainter& painter, int row) {
     // A darker well for the value the page writes at x 35..135.
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0, 0, 0, 55));
-    painter.drawRoundedRect(QRectF(22, top + 8, 118, kRowHeight - 16), 7, 7);
+    painter.drawRoundedRect(QRectF(22, top + 8, 118, rowHeight - 16), 7, 7);
     painter.setFont(persianFont(17, true));
     painter.setPen(QColor(0, 0, 0, 140));
-    drawPersian(painter, QRectF(146, top + 1, 146, kRowHeight), caption(row), Qt::AlignRight | Qt::AlignVCenter);
+    drawPersian(painter, QRectF(146, top + 1, 146, rowHeight), caption(row), Qt::AlignRight | Qt::AlignVCenter);
     painter.setPen(tomorrow ? QColor(0xf6, 0xdc, 0xae) : QColor(0xf4, 0xf1, 0xe8));
-    drawPersian(painter, QRectF(146, top, 146, kRowHeight), caption(row), Qt::AlignRight | Qt::AlignVCenter);
+    drawPersian(painter, QRectF(146, top, 146, rowHeight), caption(row), Qt::AlignRight | Qt::AlignVCenter);
 }
 
 // The strip under the rows where the page indicator and the buttons sit.

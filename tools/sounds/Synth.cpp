@@ -11,10 +11,10 @@ namespace kavenda::sounds {
 
 namespace {
 
-constexpr double kTwoPi = 2.0 * std::numbers::pi;
-constexpr double kRate = kSampleRate;
+constexpr double twoPi = 2.0 * std::numbers::pi;
+constexpr double rate = sampleRate;
 
-std::size_t sampleAt(double seconds) { return static_cast<std::size_t>(std::max(0.0, seconds) * kRate); }
+std::size_t sampleAt(double seconds) { return static_cast<std::size_t>(std::max(0.0, seconds) * rate); }
 
 double smoothstep(double x) {
     x = std::clamp(x, 0.0, 1.0);
@@ -58,29 +58,29 @@ private:
 }  // namespace
 
 std::vector<double> sing(const Phrase& phrase) {
-    constexpr double kGlide = 0.07;
-    constexpr double kTail = 1.4;
+    constexpr double glide = 0.07;
+    constexpr double tail = 1.4;
     std::vector<double> starts;
     double length = 0.0;
     for (const Note& note : phrase.notes) {
         starts.push_back(length);
         length += note.beats * phrase.secondsPerBeat;
     }
-    std::vector<double> out(sampleAt(length + kTail), 0.0);
+    std::vector<double> out(sampleAt(length + tail), 0.0);
     double phase = 0.0;
     double dronePhase = 0.0;
     std::size_t current = 0;
     for (std::size_t i = 0; i < out.size(); ++i) {
-        const double t = static_cast<double>(i) / kRate;
+        const double t = static_cast<double>(i) / rate;
         while (current + 1 < phrase.notes.size() && t >= starts[current + 1])
             ++current;
         const double intoNote = t - starts[current];
         const double previousStep = current > 0 ? phrase.notes[current - 1].step : phrase.notes[current].step;
-        const double step = previousStep + (phrase.notes[current].step - previousStep) * smoothstep(intoNote / kGlide);
+        const double step = previousStep + (phrase.notes[current].step - previousStep) * smoothstep(intoNote / glide);
         // The vibrato grows into a held note, as a singer's does.
-        const double vibrato = 0.22 * smoothstep((intoNote - 0.15) / 0.5) * std::sin(kTwoPi * 5.3 * t);
+        const double vibrato = 0.22 * smoothstep((intoNote - 0.15) / 0.5) * std::sin(twoPi * 5.3 * t);
         const double hz = phrase.tonicHz * std::pow(2.0, (step + vibrato) / 12.0);
-        phase += kTwoPi * hz / kRate;
+        phase += twoPi * hz / rate;
 
         // The voice softens a little around each change of note (smoothly, or it clicks); the
         // line breathes in at the start and out at the end.
@@ -95,7 +95,7 @@ std::vector<double> sing(const Phrase& phrase) {
             weight *= phrase.brightness;
         }
 
-        dronePhase += kTwoPi * (phrase.tonicHz / 2.0) / kRate;
+        dronePhase += twoPi * (phrase.tonicHz / 2.0) / rate;
         const double drone = (std::sin(dronePhase) + 0.4 * std::sin(2.0 * dronePhase) + 0.25 * std::sin(3.0 * dronePhase)) *
                              0.09 * smoothstep(t / 0.9) * (1.0 - smoothstep((t - length - 0.2) / 1.1));
         out[i] = 0.55 * voice * noteLevel * line + drone;
@@ -112,10 +112,10 @@ std::vector<double> bells(const std::vector<Strike>& strikes, const std::vector<
             const double decay = decaySeconds / (1.0 + 0.6 * static_cast<double>(j));
             const double hz = strike.hz * ratios[j];
             for (std::size_t i = sampleAt(strike.atSeconds); i < out.size(); ++i) {
-                const double dt = static_cast<double>(i) / kRate - strike.atSeconds;
+                const double dt = static_cast<double>(i) / rate - strike.atSeconds;
                 if (dt > decay * 7.0)
                     break;
-                out[i] += amplitude * smoothstep(dt / 0.004) * std::exp(-dt / decay) * std::sin(kTwoPi * hz * dt);
+                out[i] += amplitude * smoothstep(dt / 0.004) * std::exp(-dt / decay) * std::sin(twoPi * hz * dt);
             }
         }
     }
@@ -123,14 +123,14 @@ std::vector<double> bells(const std::vector<Strike>& strikes, const std::vector<
 }
 
 std::vector<double> tones(const std::vector<Tone>& parts, double totalSeconds) {
-    constexpr double kEdge = 0.008;
+    constexpr double fadeSeconds = 0.008;
     std::vector<double> out(sampleAt(totalSeconds), 0.0);
     for (const Tone& tone : parts) {
         const std::size_t end = std::min(out.size(), sampleAt(tone.atSeconds + tone.seconds));
         for (std::size_t i = sampleAt(tone.atSeconds); i < end; ++i) {
-            const double dt = static_cast<double>(i) / kRate - tone.atSeconds;
-            const double edge = smoothstep(dt / kEdge) * smoothstep((tone.seconds - dt) / kEdge);
-            out[i] += edge * (std::sin(kTwoPi * tone.hz * dt) + 0.2 * std::sin(2.0 * kTwoPi * tone.hz * dt));
+            const double dt = static_cast<double>(i) / rate - tone.atSeconds;
+            const double edge = smoothstep(dt / fadeSeconds) * smoothstep((tone.seconds - dt) / fadeSeconds);
+            out[i] += edge * (std::sin(twoPi * tone.hz * dt) + 0.2 * std::sin(2.0 * twoPi * tone.hz * dt));
         }
     }
     return out;

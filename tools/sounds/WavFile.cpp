@@ -36,8 +36,8 @@ bool writeWav(const std::filesystem::path& file, const std::vector<double>& samp
     put(out, std::uint32_t{16});
     put(out, std::uint16_t{1});
     put(out, channels);
-    put(out, static_cast<std::uint32_t>(kSampleRate));
-    put(out, static_cast<std::uint32_t>(kSampleRate * blockAlign));
+    put(out, static_cast<std::uint32_t>(sampleRate));
+    put(out, static_cast<std::uint32_t>(sampleRate * blockAlign));
     put(out, blockAlign);
     put(out, bits);
     tag(out, "data");

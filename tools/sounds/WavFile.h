@@ -5,7 +5,7 @@
 
 namespace kavenda::sounds {
 
-constexpr int kSampleRate = 22050;
+constexpr int sampleRate = 22050;
 
 // Writes mono samples in -1..1 as a 16-bit PCM WAV file; false when the file cannot be written.
 bool writeWav(const std::filesystem::path& file, const std::vector<double>& samples);

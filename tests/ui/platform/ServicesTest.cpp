@@ -10,10 +10,10 @@
 namespace kavenda {
 namespace {
 
-const Instant kStart{std::chrono::seconds{1'372'665'600}};
+const Instant start{std::chrono::seconds{1'372'665'600}};
 
 NotificationRecord record(std::chrono::seconds after, const std::string& body) {
-    return {kStart + after, "Asia/Tehran", body, "Ok", "0.wav", {}};
+    return {start + after, "Asia/Tehran", body, "Ok", "0.wav", {}};
 }
 
 std::uint32_t word(const QByteArray& bytes, int at) { return qFromLittleEndian<quint32>(bytes.constData() + at); }
@@ -26,7 +26,7 @@ class ServicesTest : public QObject {
 
 private slots:
     void deliversDueRecordsEarliestFirstAndKeepsTheRest() {
-        FixedClock clock(kStart);
+        FixedClock clock(start);
         QtNotificationService service(clock);
         std::vector<std::string> delivered;
         service.setDelivery([&delivered](const NotificationRecord& r) { delivered.push_back(r.alertBody); });
@@ -34,22 +34,22 @@ private slots:
         service.schedule(record(std::chrono::seconds{60}, "noon"));
         service.schedule(record(std::chrono::seconds{60}, "noon, second sound"));
         service.schedule(record(std::chrono::seconds{600}, "evening"));
-        QCOMPARE(service.nextFireDate(), std::optional<Instant>(kStart + std::chrono::seconds{60}));
+        QCOMPARE(service.nextFireDate(), std::optional<Instant>(start + std::chrono::seconds{60}));
 
-        clock.set(kStart + std::chrono::seconds{59});
+        clock.set(start + std::chrono::seconds{59});
         service.deliverDue();
         QVERIFY(delivered.empty());
 
-        clock.set(kStart + std::chrono::seconds{120});
+        clock.set(start + std::chrono::seconds{120});
         service.deliverDue();
         QCOMPARE(delivered, (std::vector<std::string>{"noon", "noon, second sound", "sunset"}));
         QCOMPARE(service.pending().size(), std::size_t{1});
         QCOMPARE(service.pending().front().alertBody, std::string("evening"));
-        QCOMPARE(service.nextFireDate(), std::optional<Instant>(kStart + std::chrono::seconds{600}));
+        QCOMPARE(service.nextFireDate(), std::optional<Instant>(start + std::chrono::seconds{600}));
     }
 
     void theTimerFiresAtTheMomentOfTheClock() {
-        FixedClock clock(kStart);
+        FixedClock clock(start);
         QtNotificationService service(clock);
         std::vector<std::string> delivered;
         service.setDelivery([&delivered](const NotificationRecord& r) { delivered.push_back(r.alertBody); });
@@ -58,13 +58,13 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), std::size_t{1}, 500);
         QCOMPARE(delivered.front(), std::string("now"));
         // The clock reaches the second record's moment; the timer set for it finds it due.
-        clock.set(kStart + std::chrono::seconds{1});
+        clock.set(start + std::chrono::seconds{1});
         QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), std::size_t{2}, 3000);
         QVERIFY(service.pending().empty());
     }
 
     void cancelAllStopsWhatWasAboutToFire() {
-        FixedClock clock(kStart);
+        FixedClock clock(start);
         QtNotificationService service(clock);
         int deliveries = 0;
         service.setDelivery([&deliveries](const NotificationRecord&) { ++deliveries; });
