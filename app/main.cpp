@@ -21,7 +21,7 @@
 #include "platform/qt/DesktopPaths.h"
 #include "platform/qt/DesktopUrlOpener.h"
 #include "platform/qt/MessageBoxAlerts.h"
-#include "platform/qt/QtAudioPlayer.h"
+#include "platform/qt/LazyAudioPlayer.h"
 #include "platform/qt/QtNotificationService.h"
 #include "reminders/MyNotification.h"
 #include "screens/main/MainViewController.h"
@@ -102,7 +102,7 @@ int main(int argc, char** argv)
     StderrLog log;
     QtNotificationService notifications(*clock);
     DeviceRandom random;
-    QtAudioPlayer audio;
+    LazyAudioPlayer audio;
     DesktopUrlOpener urls;
     MessageBoxAlerts alerts;
     FixedScreen screen(parser.isSet(tall));
