@@ -20,8 +20,8 @@
 #include "platform/qt/DesktopNotifier.h"
 #include "platform/qt/DesktopPaths.h"
 #include "platform/qt/DesktopUrlOpener.h"
+#include "platform/qt/LazyAudioPlayer.h"
 #include "platform/qt/MessageBoxAlerts.h"
-#include "platform/qt/QtAudioPlayer.h"
 #include "platform/qt/QtNotificationService.h"
 #include "reminders/MyNotification.h"
 #include "screens/main/MainViewController.h"
@@ -30,6 +30,7 @@
 #include <QCommandLineParser>
 #include <QDateTime>
 #include <QIcon>
+#include <QImageReader>
 #include <QMessageBox>
 #include <QTimer>
 #include <QWidget>
@@ -55,6 +56,14 @@ bool needsWindow(int argc, char** argv)
             return false;
     }
     return true;
+}
+
+// An icon decoded when first drawn: QIcon(file) decodes the whole image before the first frame.
+QIcon iconOnDemand(const QString& file)
+{
+    QIcon icon;
+    icon.addFile(file, QImageReader(file).size());
+    return icon;
 }
 
 }  // namespace
@@ -102,7 +111,7 @@ int main(int argc, char** argv)
     StderrLog log;
     QtNotificationService notifications(*clock);
     DeviceRandom random;
-    QtAudioPlayer audio;
+    LazyAudioPlayer audio;
     DesktopUrlOpener urls;
     MessageBoxAlerts alerts;
     FixedScreen screen(parser.isSet(tall));
@@ -133,7 +142,8 @@ int main(int argc, char** argv)
     QApplication::setApplicationDisplayName(QStringLiteral("کاوندا"));
     // Wayland docks match the window to the menu entry by this name.
     QApplication::setDesktopFileName(QStringLiteral(KAVENDA_APP_ID));
-    QApplication::setWindowIcon(QIcon(QString::fromStdString((paths.resourceFolder() / "kavenda.png").string())));
+    const QString icon = QString::fromStdString((paths.resourceFolder() / "kavenda.png").string());
+    QApplication::setWindowIcon(iconOnDemand(icon));
 
     ReminderSound sound(audio, paths, log);
     DesktopNotifier notifier(sound, paths);

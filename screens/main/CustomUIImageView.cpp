@@ -3,9 +3,8 @@
 #include "platform/qt/AccessibleFactory.h"
 #include "screens/main/CustomUIImageViewAccessible.h"
 #include "screens/main/DayPage.h"
+#include "screens/main/ShadowedLabel.h"
 
-#include <QGraphicsDropShadowEffect>
-#include <QLabel>
 #include <QPainter>
 #include <QPalette>
 
@@ -52,8 +51,8 @@ void CustomUIImageView::paintEvent(QPaintEvent*)
 QLabel* CustomUIImageView::addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
                                    const std::string& text)
 {
-    auto* label = new QLabel(QString::fromStdString(text), this);
-    label->setGeometry(frame.x, top_ + frame.y, frame.width, frame.height);
+    const QRect area(frame.x, top_ + frame.y, frame.width, frame.height);
+    auto* label = new ShadowedLabel(QString::fromStdString(text), area, QPoint(-1, shadowDown), this);
     label->setAlignment(alignment);
     QFont font = label->font();
     font.setPixelSize(fontSize);
@@ -63,11 +62,6 @@ QLabel* CustomUIImageView::addLabel(const Frame& frame, Qt::Alignment alignment,
     colours.setColor(QPalette::WindowText, Qt::white);
     colours.setColor(QPalette::Text, Qt::white);
     label->setPalette(colours);
-    auto* shadow = new QGraphicsDropShadowEffect(label);
-    shadow->setColor(Qt::black);
-    shadow->setOffset(-1, shadowDown);
-    shadow->setBlurRadius(0);
-    label->setGraphicsEffect(shadow);
     // Nothing to show is nothing for a screen reader to stop at either.
     label->setHidden(text.empty());
     return label;

@@ -1,7 +1,7 @@
 #include "screens/preferences/SoundsViewController.h"
 
 #include "platform/Alerts.h"
-#include "platform/qt/PlayableAudio.h"
+#include "platform/qt/AudioModule.h"
 #include "platform/qt/RowChoice.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SoundsViewController.h"
@@ -127,7 +127,7 @@ void SoundsViewController::useOwnRecording(const QString& file)
     if (!row)
         return;
     const QString label = QString::fromStdString(SoundChoice::label(*row));
-    const SoundChoice::OwnRecording result = choice_.useOwnRecording(*row, localPath(file), isPlayableAudio);
+    const SoundChoice::OwnRecording result = choice_.useOwnRecording(*row, localPath(file), AudioModule::isPlayable);
     if (result == SoundChoice::OwnRecording::copied) {
         // Heard at once, as a tap on the row would play it.
         didSelectRow(*row);

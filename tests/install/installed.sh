@@ -52,8 +52,15 @@ entries)
     ;;
 
 layout)
-    [[ $(ls "$prefix") == $'bin\netc\nshare' ]] || fail "top folders: $(ls "$prefix" | xargs)"
+    [[ $(ls "$prefix") == $'bin\netc\nlib\nshare' ]] || fail "top folders: $(ls "$prefix" | xargs)"
     [[ $(ls "$prefix/bin") == kavenda ]] || fail "bin holds: $(ls "$prefix/bin" | xargs)"
+    # The audio module the program loads on its first sound, with the entry points it resolves.
+    [[ $(files_under "$prefix/lib") == kavenda/kavenda_audio.so ]] \
+        || fail "lib holds: $(files_under "$prefix/lib" | xargs)"
+    for entry in kavenda_audio_player kavenda_audio_playable; do
+        nm -D --defined-only "$prefix/lib/kavenda/kavenda_audio.so" | grep -qw "$entry" \
+            || fail "the audio module lacks $entry"
+    done
     [[ $(ls "$prefix/share") == $'applications\nicons\nkavenda\nman\nmetainfo' ]] \
         || fail "share holds: $(ls "$prefix/share" | xargs)"
     # Every resource the build made, and nothing of CMake's own.

@@ -91,7 +91,9 @@ QImage mainView() {
     for (int row = 0; row < static_cast<int>(timeCaptions.size()); ++row)
         paintRow(painter, row);
     paintFooter(painter, page);
-    return image;
+    painter.end();
+    // The page is opaque: stored without alpha it decodes faster at every start.
+    return image.convertToFormat(QImage::Format_RGB32);
 }
 
 }  // namespace kavenda::artwork

@@ -290,10 +290,12 @@ private slots:
         QCOMPARE(main.pageControl()->geometry(), indicator);
         QCOMPARE(frameOf(main, "optionsButton"), options);
         QCOMPARE(frameOf(main, "calendarButton"), calendar);
-        // The second page's name, in the pager's content: the page's frame plus the label's.
+        // The second page's name, in the pager's content: the page's frame plus the text's, inside
+        // the label's margin for its shadow.
         CustomUIImageView* page = f.pages().last();
         const QLabel* name = page->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).first();
-        QCOMPARE(QRect(page->mapToParent(name->pos()), name->size()), nameLabel);
+        const QRect text = name->contentsRect();
+        QCOMPARE(QRect(page->mapToParent(name->mapToParent(text.topLeft())), text.size()), nameLabel);
         QCOMPARE(main.scrollView()->contentWidth(), 640);
         if (screenHeight == 568)
             f.saveScreenshot(QStringLiteral("main-tall.png"));

@@ -102,6 +102,21 @@ private slots:
 
         QVERIFY(!SingleInstance(other.path()).handOver(false));
     }
+
+    void aStartAfterTheRunningOneEndedRunsItself()
+    {
+        test::TempFolder folder;
+        {
+            SingleInstance ended(folder.path());
+            QVERIFY(ended.listen());
+        }
+        QVERIFY(!SingleInstance(folder.path()).handOver(false));
+        SingleInstance running(folder.path());
+        QVERIFY(running.listen());
+        QSignalSpy shows(&running, &SingleInstance::showRequested);
+        QVERIFY(SingleInstance(folder.path()).handOver(false));
+        QVERIFY(shows.wait(2000));
+    }
 };
 
 }  // namespace kavenda

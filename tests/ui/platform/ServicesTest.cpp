@@ -1,9 +1,12 @@
 #include "platform/FixedClock.h"
+#include "platform/qt/AudioModule.h"
+#include "platform/qt/LazyAudioPlayer.h"
 #include "platform/qt/QtNotificationService.h"
 
 #include <QCryptographicHash>
 #include <QFile>
 #include <QSet>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
 
@@ -111,6 +114,36 @@ private slots:
         const QByteArray digest = QCryptographicHash::hash(bytes.mid(44), QCryptographicHash::Sha1);
         QVERIFY2(!seen_.contains(digest), qPrintable(name + QStringLiteral(" sounds like another")));
         seen_.insert(digest);
+    }
+
+    // The multimedia module is loaded from the build tree on the first sound.
+    void theAudioModuleTellsSoundsFromOtherFiles_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("playable");
+        QTest::newRow("a shipped sound") << QStringLiteral("alarm.wav") << true;
+        QTest::newRow("text named as a sound") << QStringLiteral("words.wav") << false;
+        QTest::newRow("missing") << QStringLiteral("none.wav") << false;
+    }
+
+    void theAudioModuleTellsSoundsFromOtherFiles()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, playable);
+        QTemporaryDir folder;
+        const QString sound = folder.filePath(QStringLiteral("alarm.wav"));
+        QVERIFY(QFile::copy(QStringLiteral(KAVENDA_RESOURCE_DIR "/alarm.wav"), sound));
+        QFile words(folder.filePath(QStringLiteral("words.wav")));
+        QVERIFY(words.open(QIODevice::WriteOnly) && words.write(QByteArray(4096, 'a')) == 4096);
+        words.close();
+        const std::filesystem::path file = folder.filePath(name).toStdString();
+        QCOMPARE(AudioModule::isPlayable(file), playable);
+        LazyAudioPlayer audio;
+        QVERIFY(!audio.isPlaying());
+        // Opening reads no further than the file's being there.
+        QCOMPARE(audio.open(file), name != QStringLiteral("none.wav"));
+        audio.stop();
+        QVERIFY(!audio.isPlaying());
     }
 
 private:
