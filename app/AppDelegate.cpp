@@ -1,7 +1,7 @@
 #include "app/AppDelegate.h"
 
-#include "data/MyDB.h"
 #include "data/Format.h"
+#include "data/MyDB.h"
 #include "platform/Alerts.h"
 #include "platform/Log.h"
 #include "platform/Screen.h"
@@ -93,8 +93,12 @@ void AppDelegate::didReceiveLocalNotification(const NotificationRecord& notifica
 }
 
 // Nothing to keep: every statement closes the database behind it.
-void AppDelegate::applicationDidEnterBackground() {}
-void AppDelegate::applicationWillTerminate() {}
+void AppDelegate::applicationDidEnterBackground()
+{
+}
+void AppDelegate::applicationWillTerminate()
+{
+}
 
 void AppDelegate::makeTray()
 {
@@ -146,10 +150,13 @@ void AppDelegate::enterForeground()
         applicationWillEnterForeground();
     inBackground_ = false;
     launched_ = true;
-    QMetaObject::invokeMethod(this, [this] {
-        if (!inBackground_)
-            applicationDidBecomeActive();
-    }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this,
+        [this] {
+            if (!inBackground_)
+                applicationDidBecomeActive();
+        },
+        Qt::QueuedConnection);
 }
 
 bool AppDelegate::eventFilter(QObject* watched, QEvent* event)

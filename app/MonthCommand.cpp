@@ -24,8 +24,8 @@ int printMonth(std::string_view argument, const Clock& clock, const PersianCalen
                      std::string(argument).c_str());
         return 2;
     }
-    const std::optional<std::string> printed
-        = TerminalMonth(MyDB::initialize(), calendar).print(*month, isatty(fileno(stdout)) == 1);
+    const std::optional<std::string> printed =
+        TerminalMonth(MyDB::initialize(), calendar).print(*month, isatty(fileno(stdout)) == 1);
     if (!printed) {
         std::fprintf(stderr, "kavenda: the calendar has no days of %04d-%02d\n", month->year, month->month);
         return 1;

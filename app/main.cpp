@@ -14,8 +14,8 @@
 #include "platform/FixedScreen.h"
 #include "platform/IcuPersianCalendar.h"
 #include "platform/ReminderSound.h"
-#include "platform/StderrLog.h"
 #include "platform/ShiftedClock.h"
+#include "platform/StderrLog.h"
 #include "platform/SystemClock.h"
 #include "platform/qt/DesktopNotifier.h"
 #include "platform/qt/DesktopPaths.h"
@@ -70,26 +70,42 @@ QIcon iconOnDemand(const QString& file)
 
 int main(int argc, char** argv)
 {
-    std::unique_ptr<QCoreApplication> app = needsWindow(argc, argv)
-        ? std::make_unique<QApplication>(argc, argv)
-        : std::make_unique<QCoreApplication>(argc, argv);
+    std::unique_ptr<QCoreApplication> app = needsWindow(argc, argv) ? std::make_unique<QApplication>(argc, argv)
+                                                                    : std::make_unique<QCoreApplication>(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("kavenda"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KAVENDA_VERSION));
 
     QCommandLineParser parser;
-    parser.setApplicationDescription(QStringLiteral("Kavenda: the Persian calendar and the religious times of your cities."));
+    parser.setApplicationDescription(
+        QStringLiteral("Kavenda: the Persian calendar and the religious times of your cities."));
     parser.addHelpOption();
     parser.addVersionOption();
-    const QCommandLineOption now(QStringLiteral("now"), QStringLiteral("Set the device clock to a local date and time, such as 2013-07-01T12:00."), QStringLiteral("time"));
-    const QCommandLineOption tall(QStringLiteral("tall"), QStringLiteral("A tall screen: 320 x 548 instead of 320 x 460."));
-    const QCommandLineOption dataDir(QStringLiteral("data-dir"), QStringLiteral("The folder of the working database (default: the XDG data folder)."), QStringLiteral("folder"));
-    const QCommandLineOption screenshot(QStringLiteral("screenshot"), QStringLiteral("Start, let the first screen settle, write a PNG of the window to the file and exit."), QStringLiteral("file"));
-    const QCommandLineOption reminders(QStringLiteral("reminders"), QStringLiteral("Rebuild the reminders as a start does, print the pending ones in fire order and exit."));
-    const QCommandLineOption month(QStringLiteral("month"), QStringLiteral("Print a Persian month with its holidays and occasions (this month unless YYYY-MM is given) and exit."));
+    const QCommandLineOption now(
+        QStringLiteral("now"),
+        QStringLiteral("Set the device clock to a local date and time, such as 2013-07-01T12:00."),
+        QStringLiteral("time"));
+    const QCommandLineOption tall(QStringLiteral("tall"),
+                                  QStringLiteral("A tall screen: 320 x 548 instead of 320 x 460."));
+    const QCommandLineOption dataDir(
+        QStringLiteral("data-dir"),
+        QStringLiteral("The folder of the working database (default: the XDG data folder)."), QStringLiteral("folder"));
+    const QCommandLineOption screenshot(
+        QStringLiteral("screenshot"),
+        QStringLiteral("Start, let the first screen settle, write a PNG of the window to the file and exit."),
+        QStringLiteral("file"));
+    const QCommandLineOption reminders(
+        QStringLiteral("reminders"),
+        QStringLiteral("Rebuild the reminders as a start does, print the pending ones in fire order and exit."));
+    const QCommandLineOption month(
+        QStringLiteral("month"),
+        QStringLiteral(
+            "Print a Persian month with its holidays and occasions (this month unless YYYY-MM is given) and exit."));
     const QCommandLineOption background(QStringLiteral("background"),
                                         QStringLiteral("Start in the system tray without showing the window."));
     parser.addOptions({now, tall, dataDir, screenshot, reminders, month, background});
-    parser.addPositionalArgument(QStringLiteral("YYYY-MM"), QStringLiteral("With --month: the Persian year and month, such as 1392-01."), QStringLiteral("[YYYY-MM]"));
+    parser.addPositionalArgument(QStringLiteral("YYYY-MM"),
+                                 QStringLiteral("With --month: the Persian year and month, such as 1392-01."),
+                                 QStringLiteral("[YYYY-MM]"));
     parser.process(*app);
 
     SystemClock systemClock;
@@ -147,7 +163,8 @@ int main(int argc, char** argv)
 
     ReminderSound sound(audio, paths, log);
     DesktopNotifier notifier(sound, paths);
-    AppDelegate delegate(Platform::installed(), [&notifier](const NotificationRecord& record) { notifier.notify(record); });
+    AppDelegate delegate(Platform::installed(),
+                         [&notifier](const NotificationRecord& record) { notifier.notify(record); });
     delegate.setStartsInBackground(parser.isSet(background));
     delegate.didFinishLaunchingWithOptions();
     alerts.setParent(delegate.window());
@@ -177,16 +194,17 @@ int main(int argc, char** argv)
         status.refresh();
     });
     std::string today = DateTimePersian::init(*clock, calendar).getPersianDate();
-    Replanning replanning(*clock, calendar, log, [&notifications] { notifications.deliverDue(); },
-                          [&](ReplanWatch::Change) {
-                              MyNotification::initialize().update();
-                              // A page of today moves on to the new day; a day the person picked stays.
-                              MainViewController* root = delegate.rootViewController();
-                              if (root->localDtp().getPersianDate() == today)
-                                  root->refresh();
-                              today = DateTimePersian::init(*clock, calendar).getPersianDate();
-                              status.refresh();
-                          });
+    Replanning replanning(
+        *clock, calendar, log, [&notifications] { notifications.deliverDue(); },
+        [&](ReplanWatch::Change) {
+            MyNotification::initialize().update();
+            // A page of today moves on to the new day; a day the person picked stays.
+            MainViewController* root = delegate.rootViewController();
+            if (root->localDtp().getPersianDate() == today)
+                root->refresh();
+            today = DateTimePersian::init(*clock, calendar).getPersianDate();
+            status.refresh();
+        });
 
     return app->exec();
 }

@@ -19,9 +19,8 @@ int main(int argc, char** argv)
 
     if (argc == 3 && std::strcmp(argv[1], "--screenshot") == 0) {
         const QString file = QString::fromLocal8Bit(argv[2]);
-        QTimer::singleShot(600, &window, [&window, file] {
-            QCoreApplication::exit(window.grab().save(file, "PNG") ? 0 : 1);
-        });
+        QTimer::singleShot(600, &window,
+                           [&window, file] { QCoreApplication::exit(window.grab().save(file, "PNG") ? 0 : 1); });
     }
     return app.exec();
 }

@@ -87,10 +87,9 @@ void ReminderQueriesOnOpenConnection(benchmark::State& state)
     Shipped shipped;
     sqlite3* connection = nullptr;
     sqlite3_open(shipped.db.dbPath().c_str(), &connection);
-    const std::string queries[] = {
-        std::string(sql::firstChosenCity), std::string(sql::allSettings),
-        formatSql(sql::comingOccasions, {"1050901"}),
-        formatSql(sql::reminderTimes, {"1050901", tehranCentre, tehranCentre})};
+    const std::string queries[] = {std::string(sql::firstChosenCity), std::string(sql::allSettings),
+                                   formatSql(sql::comingOccasions, {"1050901"}),
+                                   formatSql(sql::reminderTimes, {"1050901", tehranCentre, tehranCentre})};
     for (auto _ : state)
         for (const std::string& text : queries)
             runOpen(connection, text);

@@ -15,9 +15,8 @@ namespace kavenda {
 namespace {
 
 constexpr std::array<int, 12> gregorianMonthDays{31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-constexpr std::array<std::string_view, 12> monthNames{
-    "فروردین", "اردیبهشت", "خرداد", "تیر", "مرداد", "شهریور",
-    "مهر", "آبان", "آذر", "دی", "بهمن", "اسفند"};
+constexpr std::array<std::string_view, 12> monthNames{"فروردین", "اردیبهشت", "خرداد", "تیر", "مرداد", "شهریور",
+                                                      "مهر",     "آبان",     "آذر",   "دی",  "بهمن",  "اسفند"};
 constexpr int lastYearWithSummerHour = 1401;
 constexpr int lastDayWithSummerHour = 185;
 constexpr int minutesPerDay = 24 * 60;

@@ -50,7 +50,9 @@ public:
 
 private:
     DateTimePersian(int year, int month, int day, int dayOfYear)
-        : year_(year), month_(month), day_(day), dayOfYear_(dayOfYear) {}
+        : year_(year), month_(month), day_(day), dayOfYear_(dayOfYear)
+    {
+    }
 
     int year_;
     int month_;

@@ -15,7 +15,7 @@ namespace kavenda {
 namespace {
 
 constexpr std::array<std::string_view, 6> requiredTables{"tStates", "tSelectedStates", "tTimes",
-                                                         "tEvents", "tSetting", "vTimes"};
+                                                         "tEvents", "tSetting",        "vTimes"};
 
 // The tables and views the program reads that the file lacks; all of them when the file
 // cannot be opened or is no database. Read-only: nothing is created or changed.
@@ -25,8 +25,8 @@ std::string missingTables(const std::filesystem::path& file)
     sqlite3* database = nullptr;
     if (sqlite3_open_v2(file.c_str(), &database, SQLITE_OPEN_READONLY, nullptr) == SQLITE_OK) {
         sqlite3_stmt* statement = nullptr;
-        sqlite3_prepare_v2(database, "SELECT name FROM sqlite_master WHERE type IN ('table', 'view')", -1,
-                           &statement, nullptr);
+        sqlite3_prepare_v2(database, "SELECT name FROM sqlite_master WHERE type IN ('table', 'view')", -1, &statement,
+                           nullptr);
         while (sqlite3_step(statement) == SQLITE_ROW)
             present.emplace(reinterpret_cast<const char*>(sqlite3_column_text(statement, 0)));
         sqlite3_finalize(statement);
@@ -60,11 +60,10 @@ std::optional<StartupProblem> workingCopyProblem(const std::filesystem::path& wo
     const std::string missing = missingTables(workingCopy);
     if (missing.empty())
         return std::nullopt;
-    return StartupProblem{
-        "kavenda: the database " + workingCopy.string() + " lacks " + missing
-            + "; move the file aside and start again to begin with a fresh copy",
-        "پرونده داده های شما جدول های لازم را ندارد:\n" + workingCopy.string()
-            + "\nآن را به جای دیگری ببرید و برنامه را دوباره باز کنید تا با نسخه تازه ای آغاز شود."};
+    return StartupProblem{"kavenda: the database " + workingCopy.string() + " lacks " + missing
+                              + "; move the file aside and start again to begin with a fresh copy",
+                          "پرونده داده های شما جدول های لازم را ندارد:\n" + workingCopy.string()
+                              + "\nآن را به جای دیگری ببرید و برنامه را دوباره باز کنید تا با نسخه تازه ای آغاز شود."};
 }
 
 std::optional<StartupProblem> openSharedDatabase()

@@ -7,11 +7,11 @@
 
 #include <sqlite3.h>
 
+#include <fcntl.h>
 #include <filesystem>
 #include <memory>
 #include <string>
 #include <system_error>
-#include <fcntl.h>
 #include <unistd.h>
 
 namespace kavenda {
@@ -106,8 +106,8 @@ bool MyDB::copyDB()
     const fs::path target(dbPath_);
     fs::create_directories(target.parent_path(), error);
     const fs::path partial = target.parent_path() / (partialPrefix() + std::to_string(::getpid()));
-    const bool copied
-        = fs::copy_file(paths_.resourceFolder() / fileName_, partial, fs::copy_options::overwrite_existing, error)
+    const bool copied =
+        fs::copy_file(paths_.resourceFolder() / fileName_, partial, fs::copy_options::overwrite_existing, error)
         && syncToDisk(partial);
     if (copied)
         fs::rename(partial, target, error);

@@ -15,8 +15,11 @@ char32_t next(std::string_view text, std::size_t& at)
 {
     while (at < text.size()) {
         const auto lead = static_cast<unsigned char>(text[at]);
-        const std::size_t length = lead < 0x80 ? 1 : (lead >> 5) == 0x6 ? 2 : (lead >> 4) == 0xE ? 3
-                                 : (lead >> 3) == 0x1E ? 4 : 0;
+        const std::size_t length = lead < 0x80 ? 1
+            : (lead >> 5) == 0x6               ? 2
+            : (lead >> 4) == 0xE               ? 3
+            : (lead >> 3) == 0x1E              ? 4
+                                               : 0;
         char32_t code = length == 1 ? lead : length == 2 ? lead & 0x1F : length == 3 ? lead & 0x0F : lead & 0x07;
         bool valid = length > 0 && at + length <= text.size();
         for (std::size_t k = 1; valid && k < length; ++k) {
@@ -91,8 +94,8 @@ bool likeMatches(std::string_view pattern, std::string_view text)
 
 void installNameMatching(sqlite3* database)
 {
-    sqlite3_create_function(database, "like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, nullptr,
-                            &like, nullptr, nullptr);
+    sqlite3_create_function(database, "like", 2, SQLITE_UTF8 | SQLITE_DETERMINISTIC | SQLITE_INNOCUOUS, nullptr, &like,
+                            nullptr, nullptr);
 }
 
 }  // namespace kavenda

@@ -32,7 +32,9 @@ struct IcuPersianCalendar::Calendars {
     }
 };
 
-IcuPersianCalendar::IcuPersianCalendar() : calendars_(std::make_unique<Calendars>()) {}
+IcuPersianCalendar::IcuPersianCalendar() : calendars_(std::make_unique<Calendars>())
+{
+}
 
 IcuPersianCalendar::~IcuPersianCalendar() = default;
 

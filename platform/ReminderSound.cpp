@@ -7,8 +7,7 @@
 
 namespace kavenda {
 
-ReminderSound::ReminderSound(AudioPlayer& audio, const Paths& paths, Log& log)
-    : audio_(audio), paths_(paths), log_(log)
+ReminderSound::ReminderSound(AudioPlayer& audio, const Paths& paths, Log& log) : audio_(audio), paths_(paths), log_(log)
 {
 }
 

@@ -69,8 +69,8 @@ std::string valueOf(const RowSet& rows, std::size_t row, const std::string& colu
 MyNotification& MyNotification::initialize()
 {
     const Platform& platform = Platform::installed();
-    static MyNotification shared(MyDB::initialize(), *platform.clock, *platform.calendar,
-                                 *platform.notifications, *platform.random, *platform.log);
+    static MyNotification shared(MyDB::initialize(), *platform.clock, *platform.calendar, *platform.notifications,
+                                 *platform.random, *platform.log);
     return shared;
 }
 
@@ -179,8 +179,8 @@ void MyNotification::add(Instant moment, std::string_view cityName, int type, in
 
     log_.line(format("%d %d %d / %d:%d - %d - %@",
                      {civil.day, civil.month, civil.year, civil.hour, civil.minute, sound, soundName}));
-    notifications_.schedule(NotificationRecord{
-        moment, calendar_.timeZoneId(), body, "Ok", soundName, {{"someKey", "someValue"}}});
+    notifications_.schedule(
+        NotificationRecord{moment, calendar_.timeZoneId(), body, "Ok", soundName, {{"someKey", "someValue"}}});
 }
 
 bool MyNotification::isCall(std::string_view alertBody)
@@ -202,8 +202,8 @@ void MyNotification::updateCalendarEvents(std::string_view time)
     const TimeOfDay at = readTimeOfDay(time);
     for (std::size_t row = 0; row < occasions.size(); ++row) {
         // The chosen time is already wall-clock time: no summer hour to add or take off.
-        const Instant moment =
-            momentOf(DateTimePersian::initWithPersianDate(valueOf(occasions, row, "Date"), calendar_), at.hour, at.minute);
+        const Instant moment = momentOf(
+            DateTimePersian::initWithPersianDate(valueOf(occasions, row, "Date"), calendar_), at.hour, at.minute);
         if (moment < now)
             continue;
         std::string text = valueOf(occasions, row, "Description");

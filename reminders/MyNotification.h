@@ -23,8 +23,8 @@ public:
     // The shared instance, made on the first call from the installed platform services.
     static MyNotification& initialize();
 
-    MyNotification(MyDB& db, const Clock& clock, const PersianCalendar& calendar,
-                   NotificationService& notifications, Random& random, Log& log);
+    MyNotification(MyDB& db, const Clock& clock, const PersianCalendar& calendar, NotificationService& notifications,
+                   Random& random, Log& log);
 
     void update();
     void cancelAll();

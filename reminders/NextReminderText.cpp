@@ -32,8 +32,10 @@ std::string timeLeft(std::chrono::seconds left)
 std::string nextReminderText(const std::vector<NotificationRecord>& pending, Instant now,
                              const PersianCalendar& calendar)
 {
-    const auto next = std::min_element(pending.begin(), pending.end(),
-        [](const NotificationRecord& a, const NotificationRecord& b) { return a.fireDate < b.fireDate; });
+    const auto next =
+        std::min_element(pending.begin(), pending.end(), [](const NotificationRecord& a, const NotificationRecord& b) {
+            return a.fireDate < b.fireDate;
+        });
     if (next == pending.end())
         return {};
     // An occasion's text spans lines; a tooltip reads better on one.

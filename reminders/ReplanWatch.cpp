@@ -7,7 +7,9 @@
 
 namespace kavenda {
 
-ReplanWatch::ReplanWatch(const PersianCalendar& calendar) : calendar_(calendar) {}
+ReplanWatch::ReplanWatch(const PersianCalendar& calendar) : calendar_(calendar)
+{
+}
 
 ReplanWatch::Change ReplanWatch::look(Instant wall, std::chrono::steady_clock::duration monotonic)
 {

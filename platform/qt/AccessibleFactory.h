@@ -6,8 +6,7 @@ namespace kavenda {
 
 // Makes every widget of a kind answer screen readers with its own interface. The first widget
 // of the kind installs it, before anyone can ask for the widget's interface.
-template <typename Widget, typename Interface>
-void installAccessibleInterface()
+template <typename Widget, typename Interface> void installAccessibleInterface()
 {
     static const bool installed = [] {
         QAccessible::installFactory([](const QString&, QObject* object) -> QAccessibleInterface* {

@@ -8,8 +8,14 @@ bool enabled = true;
 
 }  // namespace
 
-void setAnimationsEnabled(bool on) { enabled = on; }
+void setAnimationsEnabled(bool on)
+{
+    enabled = on;
+}
 
-bool animationsEnabled() { return enabled; }
+bool animationsEnabled()
+{
+    return enabled;
+}
 
 }  // namespace kavenda

@@ -31,7 +31,10 @@ DesktopNotifier::DesktopNotifier(ReminderSound& sound, const Paths& paths, QSyst
                 SLOT(notificationClosed(uint, uint)));
 }
 
-void DesktopNotifier::setTray(QSystemTrayIcon* tray) { tray_ = tray; }
+void DesktopNotifier::setTray(QSystemTrayIcon* tray)
+{
+    tray_ = tray;
+}
 
 void DesktopNotifier::notify(const NotificationRecord& record)
 {

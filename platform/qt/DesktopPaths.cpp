@@ -9,7 +9,10 @@ namespace kavenda {
 
 namespace {
 
-std::filesystem::path fromQt(const QString& path) { return std::filesystem::path(path.toStdString()); }
+std::filesystem::path fromQt(const QString& path)
+{
+    return std::filesystem::path(path.toStdString());
+}
 
 }  // namespace
 
@@ -26,13 +29,20 @@ std::filesystem::path DesktopPaths::findResources(const std::filesystem::path& p
 
 DesktopPaths::DesktopPaths(std::optional<std::filesystem::path> dataDir)
     : documents_(dataDir ? *dataDir : fromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))),
-      resources_(findResources(fromQt(QCoreApplication::applicationDirPath()), KAVENDA_INSTALLED_RESOURCES)) {
+      resources_(findResources(fromQt(QCoreApplication::applicationDirPath()), KAVENDA_INSTALLED_RESOURCES))
+{
     std::error_code error;
     std::filesystem::create_directories(documents_, error);
 }
 
-std::filesystem::path DesktopPaths::documentsFolder() const { return documents_; }
+std::filesystem::path DesktopPaths::documentsFolder() const
+{
+    return documents_;
+}
 
-std::filesystem::path DesktopPaths::resourceFolder() const { return resources_; }
+std::filesystem::path DesktopPaths::resourceFolder() const
+{
+    return resources_;
+}
 
 }  // namespace kavenda

@@ -5,7 +5,8 @@
 
 namespace kavenda {
 
-void DesktopUrlOpener::open(const std::string& address) {
+void DesktopUrlOpener::open(const std::string& address)
+{
     QDesktopServices::openUrl(QUrl::fromUserInput(QString::fromStdString(address)));
 }
 

@@ -14,7 +14,8 @@ constexpr int flipMilliseconds = 450;
 }  // namespace
 
 FlipTransition::FlipTransition(QWidget* parent, QPixmap from, QPixmap to, bool forward)
-    : QWidget(parent), from_(std::move(from)), to_(std::move(to)), forward_(forward) {
+    : QWidget(parent), from_(std::move(from)), to_(std::move(to)), forward_(forward)
+{
     setGeometry(parent->rect());
     animation_.setStartValue(0.0);
     animation_.setEndValue(1.0);
@@ -30,7 +31,8 @@ FlipTransition::FlipTransition(QWidget* parent, QPixmap from, QPixmap to, bool f
     animation_.start();
 }
 
-void FlipTransition::paintEvent(QPaintEvent*) {
+void FlipTransition::paintEvent(QPaintEvent*)
+{
     QPainter painter(this);
     painter.fillRect(rect(), Qt::black);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);

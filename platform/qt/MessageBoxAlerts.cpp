@@ -5,11 +5,17 @@
 
 namespace kavenda {
 
-MessageBoxAlerts::MessageBoxAlerts(QWidget* parent) : parent_(parent) {}
+MessageBoxAlerts::MessageBoxAlerts(QWidget* parent) : parent_(parent)
+{
+}
 
-void MessageBoxAlerts::setParent(QWidget* parent) { parent_ = parent; }
+void MessageBoxAlerts::setParent(QWidget* parent)
+{
+    parent_ = parent;
+}
 
-void MessageBoxAlerts::show(const std::string& title, const std::string& message, const std::string& button) {
+void MessageBoxAlerts::show(const std::string& title, const std::string& message, const std::string& button)
+{
     auto* box = new QMessageBox(parent_);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->setWindowTitle(title.empty() ? QGuiApplication::applicationDisplayName() : QString::fromStdString(title));
@@ -24,6 +30,9 @@ void MessageBoxAlerts::show(const std::string& title, const std::string& message
     box->open();
 }
 
-QMessageBox* MessageBoxAlerts::current() const { return current_; }
+QMessageBox* MessageBoxAlerts::current() const
+{
+    return current_;
+}
 
 }  // namespace kavenda

@@ -13,7 +13,8 @@ constexpr int buttonMargin = 6;
 
 }  // namespace
 
-NavigationBar::NavigationBar(QWidget* parent) : QWidget(parent), title_(new QLabel(this)) {
+NavigationBar::NavigationBar(QWidget* parent) : QWidget(parent), title_(new QLabel(this))
+{
     setFixedHeight(barHeight);
     title_->setAlignment(Qt::AlignCenter);
     QFont font = title_->font();
@@ -26,11 +27,18 @@ NavigationBar::NavigationBar(QWidget* parent) : QWidget(parent), title_(new QLab
     title_->setStyleSheet(QStringLiteral("color: white;"));
 }
 
-void NavigationBar::setTitle(const QString& title) { title_->setText(title); }
+void NavigationBar::setTitle(const QString& title)
+{
+    title_->setText(title);
+}
 
-QString NavigationBar::title() const { return title_->text(); }
+QString NavigationBar::title() const
+{
+    return title_->text();
+}
 
-void NavigationBar::showButtons(QAbstractButton* left, QAbstractButton* right) {
+void NavigationBar::showButtons(QAbstractButton* left, QAbstractButton* right)
+{
     for (QAbstractButton* old : {left_.data(), right_.data()})
         if (old && old != left && old != right)
             old->hide();
@@ -46,12 +54,14 @@ void NavigationBar::showButtons(QAbstractButton* left, QAbstractButton* right) {
     place();
 }
 
-void NavigationBar::resizeEvent(QResizeEvent* event) {
+void NavigationBar::resizeEvent(QResizeEvent* event)
+{
     QWidget::resizeEvent(event);
     place();
 }
 
-void NavigationBar::paintEvent(QPaintEvent*) {
+void NavigationBar::paintEvent(QPaintEvent*)
+{
     QPainter painter(this);
     QLinearGradient gradient(0, 0, 0, height());
     gradient.setColorAt(0.0, QColor(0x3f, 0x6f, 0x8f));
@@ -62,7 +72,8 @@ void NavigationBar::paintEvent(QPaintEvent*) {
 }
 
 // Left and right are the bar's own ends, whatever the direction of the text.
-void NavigationBar::place() {
+void NavigationBar::place()
+{
     title_->setGeometry(rect());
     const auto size = [this](QAbstractButton* button) {
         return button->sizeHint().boundedTo(QSize(width() / 3, height() - 2 * buttonMargin));

@@ -17,10 +17,12 @@ constexpr int slideMilliseconds = 300;
 }  // namespace
 
 NavigationStack::NavigationStack(QWidget* parent)
-    : QWidget(parent), bar_(new NavigationBar(this)), content_(new QWidget(this)),
-      barHeight_(NavigationBar::barHeight) {}
+    : QWidget(parent), bar_(new NavigationBar(this)), content_(new QWidget(this)), barHeight_(NavigationBar::barHeight)
+{
+}
 
-void NavigationStack::push(QWidget* screen, bool animated) {
+void NavigationStack::push(QWidget* screen, bool animated)
+{
     QWidget* below = top();
     screen->setParent(content_);
     screen->setGeometry(content_->rect());
@@ -45,7 +47,8 @@ void NavigationStack::push(QWidget* screen, bool animated) {
     showTop();
 }
 
-void NavigationStack::pop(bool animated) {
+void NavigationStack::pop(bool animated)
+{
     if (screens_.size() < 2)
         return;
     QWidget* gone = top();
@@ -60,23 +63,32 @@ void NavigationStack::pop(bool animated) {
 }
 
 // The screens outlive the members that track them: they are deleted with the base widget.
-NavigationStack::~NavigationStack() {
+NavigationStack::~NavigationStack()
+{
     for (QWidget* screen : screens_)
         disconnect(screen, nullptr, this, nullptr);
 }
 
-NavigationStack* NavigationStack::of(const QWidget* screen) {
+NavigationStack* NavigationStack::of(const QWidget* screen)
+{
     for (QWidget* up = screen ? screen->parentWidget() : nullptr; up; up = up->parentWidget())
         if (auto* stack = qobject_cast<NavigationStack*>(up))
             return stack;
     return nullptr;
 }
 
-QWidget* NavigationStack::top() const { return screens_.isEmpty() ? nullptr : screens_.last(); }
+QWidget* NavigationStack::top() const
+{
+    return screens_.isEmpty() ? nullptr : screens_.last();
+}
 
-int NavigationStack::count() const { return static_cast<int>(screens_.size()); }
+int NavigationStack::count() const
+{
+    return static_cast<int>(screens_.size());
+}
 
-void NavigationStack::setNavigationBarHidden(bool hidden, bool animated) {
+void NavigationStack::setNavigationBarHidden(bool hidden, bool animated)
+{
     if (barAnimation_)
         barAnimation_->stop();
     barHidden_ = hidden;
@@ -98,9 +110,13 @@ void NavigationStack::setNavigationBarHidden(bool hidden, bool animated) {
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
-bool NavigationStack::isNavigationBarHidden() const { return barHidden_; }
+bool NavigationStack::isNavigationBarHidden() const
+{
+    return barHidden_;
+}
 
-void NavigationStack::setBarButtons(QWidget* screen, QAbstractButton* left, QAbstractButton* right) {
+void NavigationStack::setBarButtons(QWidget* screen, QAbstractButton* left, QAbstractButton* right)
+{
     BarButtons& slot = buttons_[screen];
     for (QAbstractButton* old : {slot.left.data(), slot.right.data()})
         if (old && old != left && old != right)
@@ -116,14 +132,19 @@ void NavigationStack::setBarButtons(QWidget* screen, QAbstractButton* left, QAbs
         showTop();
 }
 
-QString NavigationStack::title() const { return bar_->title(); }
+QString NavigationStack::title() const
+{
+    return bar_->title();
+}
 
-void NavigationStack::resizeEvent(QResizeEvent* event) {
+void NavigationStack::resizeEvent(QResizeEvent* event)
+{
     QWidget::resizeEvent(event);
     layoutContent();
 }
 
-void NavigationStack::forget(QWidget* screen) {
+void NavigationStack::forget(QWidget* screen)
+{
     // A screen on its way out may outlive the stack's own members, so it stops reporting.
     disconnect(screen, nullptr, this, nullptr);
     const BarButtons slot = buttons_.take(screen);
@@ -134,7 +155,8 @@ void NavigationStack::forget(QWidget* screen) {
         showTop();
 }
 
-void NavigationStack::showTop() {
+void NavigationStack::showTop()
+{
     QWidget* screen = top();
     const BarButtons slot = buttons_.value(screen);
     bar_->setTitle(screen ? screen->windowTitle() : QString());
@@ -142,7 +164,8 @@ void NavigationStack::showTop() {
     emit topChanged();
 }
 
-void NavigationStack::layoutContent() {
+void NavigationStack::layoutContent()
+{
     bar_->setVisible(barHeight_ > 0);
     bar_->setGeometry(0, barHeight_ - NavigationBar::barHeight, width(), NavigationBar::barHeight);
     content_->setGeometry(0, barHeight_, width(), height() - barHeight_);
@@ -150,7 +173,8 @@ void NavigationStack::layoutContent() {
         screen->setGeometry(content_->rect());
 }
 
-void NavigationStack::slide(QWidget* screen, int fromX, int toX, std::function<void()> done) {
+void NavigationStack::slide(QWidget* screen, int fromX, int toX, std::function<void()> done)
+{
     auto* animation = new QPropertyAnimation(screen, "pos", screen);
     animation->setStartValue(QPoint(fromX, 0));
     animation->setEndValue(QPoint(toX, 0));

@@ -19,21 +19,27 @@ constexpr int gap = 9;
 
 }  // namespace
 
-PageIndicator::PageIndicator(QWidget* parent) : QWidget(parent) {
+PageIndicator::PageIndicator(QWidget* parent) : QWidget(parent)
+{
     installAccessibleInterface<PageIndicator, PageIndicatorAccessible>();
     setFocusPolicy(Qt::TabFocus);
 }
 
-void PageIndicator::setNumberOfPages(int pages) {
+void PageIndicator::setNumberOfPages(int pages)
+{
     pages_ = std::max(0, pages);
     current_ = std::clamp(current_, 0, std::max(0, pages_ - 1));
     updateGeometry();
     update();
 }
 
-int PageIndicator::numberOfPages() const { return pages_; }
+int PageIndicator::numberOfPages() const
+{
+    return pages_;
+}
 
-void PageIndicator::setCurrentPage(int page) {
+void PageIndicator::setCurrentPage(int page)
+{
     const int before = current_;
     current_ = std::clamp(page, 0, std::max(0, pages_ - 1));
     update();
@@ -45,10 +51,14 @@ void PageIndicator::setCurrentPage(int page) {
     }
 }
 
-int PageIndicator::currentPage() const { return current_; }
+int PageIndicator::currentPage() const
+{
+    return current_;
+}
 
 // Each dot owns the gap around it; beside the row of dots a click steps one page that way.
-int PageIndicator::pageAt(double x) const {
+int PageIndicator::pageAt(double x) const
+{
     const double column = std::floor((x - dotsLeft() + gap / 2.0) / (dot + gap));
     if (column < 0)
         return std::max(0, current_ - 1);
@@ -57,26 +67,33 @@ int PageIndicator::pageAt(double x) const {
     return static_cast<int>(column);
 }
 
-void PageIndicator::choosePage(int page) {
+void PageIndicator::choosePage(int page)
+{
     const int before = current_;
     setCurrentPage(page);
     if (current_ != before)
         emit valueChanged(current_);
 }
 
-QSize PageIndicator::sizeHint() const { return {pages_ * (dot + gap) + gap, dot + 2 * gap}; }
+QSize PageIndicator::sizeHint() const
+{
+    return {pages_ * (dot + gap) + gap, dot + 2 * gap};
+}
 
-int PageIndicator::dotsLeft() const {
+int PageIndicator::dotsLeft() const
+{
     const int span = pages_ * dot + (pages_ - 1) * gap;
     return (width() - span) / 2;
 }
 
-QRect PageIndicator::dotRect(int page) const {
+QRect PageIndicator::dotRect(int page) const
+{
     return {dotsLeft() + page * (dot + gap), (height() - dot) / 2, dot, dot};
 }
 
 // Dots run left to right in page order, like the pages themselves.
-void PageIndicator::paintEvent(QPaintEvent*) {
+void PageIndicator::paintEvent(QPaintEvent*)
+{
     if (pages_ < 2)
         return;
     QPainter painter(this);
@@ -95,17 +112,20 @@ void PageIndicator::paintEvent(QPaintEvent*) {
 }
 
 // The press is the indicator's, so that it does not reach the pages beneath.
-void PageIndicator::mousePressEvent(QMouseEvent* event) {
+void PageIndicator::mousePressEvent(QMouseEvent* event)
+{
     event->setAccepted(event->button() == Qt::LeftButton);
 }
 
-void PageIndicator::mouseReleaseEvent(QMouseEvent* event) {
+void PageIndicator::mouseReleaseEvent(QMouseEvent* event)
+{
     if (event->button() != Qt::LeftButton || !rect().contains(event->position().toPoint()) || pages_ == 0)
         return;
     choosePage(pageAt(event->position().x()));
 }
 
-void PageIndicator::keyPressEvent(QKeyEvent* event) {
+void PageIndicator::keyPressEvent(QKeyEvent* event)
+{
     switch (event->key()) {
     case Qt::Key_Left:
         choosePage(current_ - 1);

@@ -17,7 +17,8 @@ constexpr int settleMilliseconds = 250;
 
 }  // namespace
 
-Pager::Pager(QWidget* parent) : QAbstractScrollArea(parent), content_(new QWidget(viewport())) {
+Pager::Pager(QWidget* parent) : QAbstractScrollArea(parent), content_(new QWidget(viewport()))
+{
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     setFrameShape(QFrame::NoFrame);
@@ -25,7 +26,8 @@ Pager::Pager(QWidget* parent) : QAbstractScrollArea(parent), content_(new QWidge
     viewport()->setLayoutDirection(Qt::LeftToRight);
 }
 
-void Pager::setPages(const QList<QWidget*>& pages) {
+void Pager::setPages(const QList<QWidget*>& pages)
+{
     if (animation_)
         animation_->stop();
     for (QWidget* old : pages_)
@@ -39,9 +41,13 @@ void Pager::setPages(const QList<QWidget*>& pages) {
     layoutPages();
 }
 
-QList<QWidget*> Pager::pages() const { return pages_; }
+QList<QWidget*> Pager::pages() const
+{
+    return pages_;
+}
 
-void Pager::setContentOffset(double x, bool animated) {
+void Pager::setContentOffset(double x, bool animated)
+{
     if (animation_)
         animation_->stop();
     if (!animated || !animationsEnabled()) {
@@ -60,18 +66,26 @@ void Pager::setContentOffset(double x, bool animated) {
     animation->start(QAbstractAnimation::DeleteWhenStopped);
 }
 
-double Pager::contentOffset() const { return offset_; }
+double Pager::contentOffset() const
+{
+    return offset_;
+}
 
-int Pager::contentWidth() const { return pageWidth * static_cast<int>(pages_.size()); }
+int Pager::contentWidth() const
+{
+    return pageWidth * static_cast<int>(pages_.size());
+}
 
-int Pager::currentPage() const {
+int Pager::currentPage() const
+{
     if (pages_.isEmpty())
         return 0;
     const int page = static_cast<int>(std::lround(offset_ / pageWidth));
     return std::clamp(page, 0, static_cast<int>(pages_.size()) - 1);
 }
 
-void Pager::mousePressEvent(QMouseEvent* event) {
+void Pager::mousePressEvent(QMouseEvent* event)
+{
     if (event->button() != Qt::LeftButton)
         return QAbstractScrollArea::mousePressEvent(event);
     if (animation_)
@@ -82,14 +96,16 @@ void Pager::mousePressEvent(QMouseEvent* event) {
     event->accept();
 }
 
-void Pager::mouseMoveEvent(QMouseEvent* event) {
+void Pager::mouseMoveEvent(QMouseEvent* event)
+{
     if (!dragging_)
         return QAbstractScrollArea::mouseMoveEvent(event);
     moveTo(draggedOffset(*event));
     event->accept();
 }
 
-void Pager::mouseReleaseEvent(QMouseEvent* event) {
+void Pager::mouseReleaseEvent(QMouseEvent* event)
+{
     if (!dragging_ || event->button() != Qt::LeftButton)
         return QAbstractScrollArea::mouseReleaseEvent(event);
     dragging_ = false;
@@ -98,7 +114,8 @@ void Pager::mouseReleaseEvent(QMouseEvent* event) {
     event->accept();
 }
 
-void Pager::wheelEvent(QWheelEvent* event) {
+void Pager::wheelEvent(QWheelEvent* event)
+{
     const QPoint delta = event->angleDelta();
     const int step = delta.x() != 0 ? delta.x() : delta.y();
     if (step == 0 || pages_.isEmpty())
@@ -107,37 +124,46 @@ void Pager::wheelEvent(QWheelEvent* event) {
     event->accept();
 }
 
-void Pager::resizeEvent(QResizeEvent* event) {
+void Pager::resizeEvent(QResizeEvent* event)
+{
     QAbstractScrollArea::resizeEvent(event);
     layoutPages();
 }
 
 // The offset is ours, not the scroll bars'.
-void Pager::scrollContentsBy(int, int) {}
+void Pager::scrollContentsBy(int, int)
+{
+}
 
-void Pager::moveTo(double x) {
+void Pager::moveTo(double x)
+{
     offset_ = x;
     content_->move(static_cast<int>(-std::lround(x)), 0);
     emit didScroll(offset_);
 }
 
-void Pager::snapTo(int page) {
+void Pager::snapTo(int page)
+{
     setContentOffset(static_cast<double>(page) * pageWidth, true);
     if (!animation_)
         emit didEndScrolling(page);
 }
 
-double Pager::draggedOffset(const QMouseEvent& event) const {
+double Pager::draggedOffset(const QMouseEvent& event) const
+{
     return clamped(dragStartOffset_ - (event.globalPosition().x() - dragStartX_));
 }
 
-double Pager::clamped(double x) const {
+double Pager::clamped(double x) const
+{
     return std::clamp(x, 0.0, std::max(0.0, static_cast<double>(contentWidth() - viewport()->width())));
 }
 
-void Pager::layoutPages() {
+void Pager::layoutPages()
+{
     const int height = viewport()->height();
-    content_->setGeometry(static_cast<int>(-std::lround(offset_)), 0, std::max(contentWidth(), viewport()->width()), height);
+    content_->setGeometry(static_cast<int>(-std::lround(offset_)), 0, std::max(contentWidth(), viewport()->width()),
+                          height);
     for (int i = 0; i < pages_.size(); ++i)
         pages_[i]->setGeometry(pageWidth * i, 0, pageWidth, height);
 }

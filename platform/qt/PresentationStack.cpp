@@ -5,9 +5,12 @@
 
 namespace kavenda {
 
-PresentationStack::PresentationStack(QWidget* parent) : QWidget(parent) {}
+PresentationStack::PresentationStack(QWidget* parent) : QWidget(parent)
+{
+}
 
-void PresentationStack::setRoot(QWidget* screen) {
+void PresentationStack::setRoot(QWidget* screen)
+{
     while (!screens_.isEmpty())
         release(screens_.takeLast())->deleteLater();
     adopt(screen);
@@ -15,14 +18,16 @@ void PresentationStack::setRoot(QWidget* screen) {
     emit topChanged();
 }
 
-void PresentationStack::present(QWidget* screen, bool animated) {
+void PresentationStack::present(QWidget* screen, bool animated)
+{
     QWidget* below = top();
     adopt(screen);
     flip(below, screen, true, animated);
     emit topChanged();
 }
 
-void PresentationStack::dismiss(bool animated) {
+void PresentationStack::dismiss(bool animated)
+{
     if (screens_.size() < 2)
         return;
     QWidget* gone = release(screens_.takeLast());
@@ -32,28 +37,38 @@ void PresentationStack::dismiss(bool animated) {
 }
 
 // The screens outlive the members that track them: they are deleted with the base widget.
-PresentationStack::~PresentationStack() {
+PresentationStack::~PresentationStack()
+{
     for (QWidget* screen : screens_)
         disconnect(screen, nullptr, this, nullptr);
 }
 
-QWidget* PresentationStack::top() const { return screens_.isEmpty() ? nullptr : screens_.last(); }
+QWidget* PresentationStack::top() const
+{
+    return screens_.isEmpty() ? nullptr : screens_.last();
+}
 
-int PresentationStack::depth() const { return static_cast<int>(screens_.size()); }
+int PresentationStack::depth() const
+{
+    return static_cast<int>(screens_.size());
+}
 
-void PresentationStack::resizeEvent(QResizeEvent* event) {
+void PresentationStack::resizeEvent(QResizeEvent* event)
+{
     QWidget::resizeEvent(event);
     for (QWidget* screen : screens_)
         screen->setGeometry(rect());
 }
 
 // A screen on its way out may outlive the stack's own members, so it stops reporting.
-QWidget* PresentationStack::release(QWidget* screen) {
+QWidget* PresentationStack::release(QWidget* screen)
+{
     disconnect(screen, nullptr, this, nullptr);
     return screen;
 }
 
-void PresentationStack::adopt(QWidget* screen) {
+void PresentationStack::adopt(QWidget* screen)
+{
     screen->setParent(this);
     screen->setGeometry(rect());
     screens_.append(screen);
@@ -63,7 +78,8 @@ void PresentationStack::adopt(QWidget* screen) {
     });
 }
 
-void PresentationStack::flip(QWidget* from, QWidget* to, bool forward, bool animated) {
+void PresentationStack::flip(QWidget* from, QWidget* to, bool forward, bool animated)
+{
     if (transition_)
         transition_->deleteLater();
     const bool canAnimate = animated && animationsEnabled() && from && isVisible();

@@ -20,7 +20,8 @@ QMediaPlayer& QtAudioPlayer::player()
 }
 
 // The player loads in the background; a file that is not there or cannot be read fails here.
-bool QtAudioPlayer::open(const std::filesystem::path& file) {
+bool QtAudioPlayer::open(const std::filesystem::path& file)
+{
     player().stop();
     const QFileInfo info(QString::fromStdString(file.string()));
     if (!info.isFile() || !info.isReadable()) {
@@ -31,7 +32,10 @@ bool QtAudioPlayer::open(const std::filesystem::path& file) {
     return true;
 }
 
-void QtAudioPlayer::play() { player().play(); }
+void QtAudioPlayer::play()
+{
+    player().play();
+}
 
 void QtAudioPlayer::stop()
 {

@@ -13,28 +13,37 @@ constexpr std::chrono::milliseconds longestWait{60'000};
 
 }  // namespace
 
-QtNotificationService::QtNotificationService(const Clock& clock, QObject* parent)
-    : QObject(parent), clock_(clock) {
+QtNotificationService::QtNotificationService(const Clock& clock, QObject* parent) : QObject(parent), clock_(clock)
+{
     timer_.setSingleShot(true);
     timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, &QtNotificationService::deliverDue);
 }
 
-void QtNotificationService::cancelAll() {
+void QtNotificationService::cancelAll()
+{
     queue_.cancelAll();
     rearm();
 }
 
-void QtNotificationService::schedule(const NotificationRecord& record) {
+void QtNotificationService::schedule(const NotificationRecord& record)
+{
     queue_.schedule(record);
     rearm();
 }
 
-std::vector<NotificationRecord> QtNotificationService::pending() const { return queue_.pending(); }
+std::vector<NotificationRecord> QtNotificationService::pending() const
+{
+    return queue_.pending();
+}
 
-void QtNotificationService::setDelivery(Delivery delivery) { delivery_ = std::move(delivery); }
+void QtNotificationService::setDelivery(Delivery delivery)
+{
+    delivery_ = std::move(delivery);
+}
 
-void QtNotificationService::deliverDue() {
+void QtNotificationService::deliverDue()
+{
     // The hook may schedule or cancel; the timer is set once it has seen every due record.
     for (const NotificationRecord& record : queue_.takeDue(clock_.now()))
         if (delivery_)
@@ -42,9 +51,13 @@ void QtNotificationService::deliverDue() {
     rearm();
 }
 
-std::optional<Instant> QtNotificationService::nextFireDate() const { return queue_.nextFireDate(); }
+std::optional<Instant> QtNotificationService::nextFireDate() const
+{
+    return queue_.nextFireDate();
+}
 
-void QtNotificationService::rearm() {
+void QtNotificationService::rearm()
+{
     const std::optional<Instant> next = nextFireDate();
     if (!next) {
         timer_.stop();

@@ -24,8 +24,9 @@ const char* const barStyle = R"(
 }  // namespace
 
 TabBarController::TabBarController(QWidget* parent)
-    : QWidget(parent), pages_(new QStackedWidget(this)), bar_(new QWidget(this)),
-      barLayout_(new QHBoxLayout(bar_)), group_(new QButtonGroup(this)) {
+    : QWidget(parent), pages_(new QStackedWidget(this)), bar_(new QWidget(this)), barLayout_(new QHBoxLayout(bar_)),
+      group_(new QButtonGroup(this))
+{
     bar_->setObjectName(QStringLiteral("tabBar"));
     bar_->setAttribute(Qt::WA_StyledBackground);
     bar_->setStyleSheet(QString::fromLatin1(barStyle));
@@ -41,7 +42,8 @@ TabBarController::TabBarController(QWidget* parent)
     connect(group_, &QButtonGroup::idClicked, this, &TabBarController::setCurrentIndex);
 }
 
-int TabBarController::addTab(QWidget* page, const QString& title, const QIcon& icon) {
+int TabBarController::addTab(QWidget* page, const QString& title, const QIcon& icon)
+{
     const int index = pages_->addWidget(page);
     auto* button = new TabBarButton(bar_);
     button->setText(title);
@@ -56,17 +58,20 @@ int TabBarController::addTab(QWidget* page, const QString& title, const QIcon& i
     return index;
 }
 
-void TabBarController::setTabEnabled(int index, bool enabled) {
+void TabBarController::setTabEnabled(int index, bool enabled)
+{
     if (QToolButton* button = tabButton(index))
         button->setEnabled(enabled);
 }
 
-bool TabBarController::isTabEnabled(int index) const {
+bool TabBarController::isTabEnabled(int index) const
+{
     const QToolButton* button = tabButton(index);
     return button && button->isEnabled();
 }
 
-void TabBarController::setCurrentIndex(int index) {
+void TabBarController::setCurrentIndex(int index)
+{
     if (index < 0 || index >= count() || index == currentIndex())
         return;
     pages_->setCurrentIndex(index);
@@ -74,17 +79,33 @@ void TabBarController::setCurrentIndex(int index) {
     emit currentChanged(index);
 }
 
-int TabBarController::currentIndex() const { return pages_->currentIndex(); }
+int TabBarController::currentIndex() const
+{
+    return pages_->currentIndex();
+}
 
-int TabBarController::count() const { return pages_->count(); }
+int TabBarController::count() const
+{
+    return pages_->count();
+}
 
-QWidget* TabBarController::page(int index) const { return pages_->widget(index); }
+QWidget* TabBarController::page(int index) const
+{
+    return pages_->widget(index);
+}
 
-void TabBarController::setTabBarHidden(bool hidden) { bar_->setHidden(hidden); }
+void TabBarController::setTabBarHidden(bool hidden)
+{
+    bar_->setHidden(hidden);
+}
 
-bool TabBarController::isTabBarHidden() const { return bar_->isHidden(); }
+bool TabBarController::isTabBarHidden() const
+{
+    return bar_->isHidden();
+}
 
-QToolButton* TabBarController::tabButton(int index) const {
+QToolButton* TabBarController::tabButton(int index) const
+{
     return index >= 0 && index < buttons_.size() ? buttons_[index] : nullptr;
 }
 

@@ -15,7 +15,8 @@ constexpr int margin = 2;
 
 }  // namespace
 
-ToggleSwitch::ToggleSwitch(QWidget* parent) : QAbstractButton(parent) {
+ToggleSwitch::ToggleSwitch(QWidget* parent) : QAbstractButton(parent)
+{
     installAccessibleInterface<ToggleSwitch, ToggleSwitchAccessible>();
     setCheckable(true);
     setCursor(Qt::PointingHandCursor);
@@ -27,21 +28,27 @@ ToggleSwitch::ToggleSwitch(QWidget* parent) : QAbstractButton(parent) {
     });
 }
 
-QSize ToggleSwitch::sizeHint() const { return {51, 31}; }
+QSize ToggleSwitch::sizeHint() const
+{
+    return {51, 31};
+}
 
 // setChecked from code: the knob goes straight to its end.
-void ToggleSwitch::checkStateSet() {
+void ToggleSwitch::checkStateSet()
+{
     animation_.stop();
     knob_ = isChecked() ? 1.0 : 0.0;
     update();
 }
 
-void ToggleSwitch::nextCheckState() {
+void ToggleSwitch::nextCheckState()
+{
     QAbstractButton::nextCheckState();
     slideKnob();
 }
 
-void ToggleSwitch::slideKnob() {
+void ToggleSwitch::slideKnob()
+{
     const double target = isChecked() ? 1.0 : 0.0;
     animation_.stop();
     if (!animationsEnabled() || !isVisible()) {
@@ -54,7 +61,8 @@ void ToggleSwitch::slideKnob() {
     animation_.start();
 }
 
-void ToggleSwitch::paintEvent(QPaintEvent*) {
+void ToggleSwitch::paintEvent(QPaintEvent*)
+{
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
     const QRectF track = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);

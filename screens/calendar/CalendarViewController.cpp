@@ -33,9 +33,7 @@ int slotY(MonthGrid::Slot slot)
 }  // namespace
 
 CalendarViewController::CalendarViewController(const DateTimePersian& date, const Services& services, QWidget* parent)
-    : QWidget(parent),
-      ui_(std::make_unique<Ui::CalendarViewController>()),
-      resourceFolder_(services.resourceFolder),
+    : QWidget(parent), ui_(std::make_unique<Ui::CalendarViewController>()), resourceFolder_(services.resourceFolder),
       grid_(services.db, services.calendar, date, DateTimePersian::init(services.clock, services.calendar))
 {
     ui_->setupUi(this);

@@ -43,11 +43,8 @@ QString accessibleNameOf(const DayCell& cell)
 }  // namespace
 
 DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceFolder, QWidget* parent)
-    : QAbstractButton(parent),
-      tag_(cell.place.day),
-      normalTitle_(colourOf(cell.normalTitle)),
-      selectedTitle_(colourOf(cell.selectedTitle)),
-      normalBackground_(image(resourceFolder, cell.normalBackground)),
+    : QAbstractButton(parent), tag_(cell.place.day), normalTitle_(colourOf(cell.normalTitle)),
+      selectedTitle_(colourOf(cell.selectedTitle)), normalBackground_(image(resourceFolder, cell.normalBackground)),
       selectedBackground_(image(resourceFolder, cell.selectedBackground))
 {
     installAccessibleInterface<DayButton, DayButtonAccessible>();
@@ -76,7 +73,9 @@ QSize DayButton::sizeHint() const
     return QSize(MonthGrid::buttonWidth, MonthGrid::buttonHeight);
 }
 
-void DayButton::nextCheckState() {}
+void DayButton::nextCheckState()
+{
+}
 
 void DayButton::paintEvent(QPaintEvent*)
 {

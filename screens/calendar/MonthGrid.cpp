@@ -44,14 +44,8 @@ const DayCell* MonthPage::cell(int day) const
 
 MonthGrid::MonthGrid(MyDB& db, const PersianCalendar& calendar, const DateTimePersian& opened,
                      const DateTimePersian& now)
-    : db_(db),
-      calendar_(calendar),
-      year_(opened.fullYear()),
-      month_(opened.month() - 1),
-      yearNow_(now.fullYear()),
-      monthNow_(now.month() - 1),
-      today_(opened.day()),
-      dayNow_(now.day())
+    : db_(db), calendar_(calendar), year_(opened.fullYear()), month_(opened.month() - 1), yearNow_(now.fullYear()),
+      monthNow_(now.month() - 1), today_(opened.day()), dayNow_(now.day())
 {
 }
 

@@ -49,7 +49,9 @@ std::string withoutTrailingBlanks(std::string line)
 
 }  // namespace
 
-TerminalMonth::TerminalMonth(MyDB& db, const PersianCalendar& calendar) : db_(db), calendar_(calendar) {}
+TerminalMonth::TerminalMonth(MyDB& db, const PersianCalendar& calendar) : db_(db), calendar_(calendar)
+{
+}
 
 std::optional<TerminalMonth::YearMonth> TerminalMonth::parse(std::string_view text)
 {

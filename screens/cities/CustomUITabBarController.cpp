@@ -1,6 +1,5 @@
 #include "screens/cities/CustomUITabBarController.h"
 
-
 namespace kavenda {
 
 CustomUITabBarController::CustomUITabBarController(QWidget* parent) : TabBarController(parent)

@@ -59,8 +59,7 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
     // The text sits between the two controls.
     QStyleOptionViewItem text(option);
     const int trailing = confirming ? confirmWidth : controlSize;
-    text.rect = placed(direction, row,
-                       row.adjusted(2 * edgeMargin + controlSize, 0, -(2 * edgeMargin + trailing), 0));
+    text.rect = placed(direction, row, row.adjusted(2 * edgeMargin + controlSize, 0, -(2 * edgeMargin + trailing), 0));
     text.state &= ~(QStyle::State_Selected | QStyle::State_HasFocus | QStyle::State_MouseOver);
     QStyledItemDelegate::paint(painter, text, index);
 

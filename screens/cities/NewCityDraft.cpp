@@ -46,8 +46,9 @@ bool NewCityDraft::save()
 
     std::array<std::string, offsetCount> minutes;
     std::transform(difArray_.begin(), difArray_.end(), minutes.begin(), [](int v) { return std::to_string(v); });
-    if (!db_.ExecuteNonQuery(formatSql(sql::insertOffsetRow, {id, offsetRowDate, minutes[0], minutes[1], minutes[2],
-                                                              minutes[3], minutes[4], minutes[5]}))) {
+    if (!db_.ExecuteNonQuery(
+            formatSql(sql::insertOffsetRow,
+                      {id, offsetRowDate, minutes[0], minutes[1], minutes[2], minutes[3], minutes[4], minutes[5]}))) {
         removePlace(id, false);
         return false;
     }

@@ -18,8 +18,7 @@ namespace kavenda {
 namespace {
 
 // A preference screen at the root of its tab's stack, its Save on the right of the bar.
-template <typename Screen>
-void showInStack(NavigationStack* stack, Screen* screen)
+template <typename Screen> void showInStack(NavigationStack* stack, Screen* screen)
 {
     stack->push(screen, false);
     stack->setBarButtons(screen, nullptr, screen->saveButton());
@@ -28,7 +27,8 @@ void showInStack(NavigationStack* stack, Screen* screen)
 }  // namespace
 
 OptionsViewController::OptionsViewController(QWidget* parent)
-    : OptionsViewController(MyDB::initialize(), [] { MyNotification::initialize().update(); }, parent)
+    : OptionsViewController(
+        MyDB::initialize(), [] { MyNotification::initialize().update(); }, parent)
 {
 }
 
@@ -47,7 +47,8 @@ CustomUITabBarController* OptionsViewController::tabBarControl()
     const Platform& services = Platform::installed();
     showInStack(layout.settingsNavigation, new SettingController(db_));
     if (services.paths) {
-        showInStack(layout.soundsNavigation, new SoundsViewController(db_, *services.paths, services.audio, services.alerts));
+        showInStack(layout.soundsNavigation,
+                    new SoundsViewController(db_, *services.paths, services.audio, services.alerts));
         showInStack(layout.historyNavigation, new HistoryViewController(db_, *services.paths, services.log));
     }
     layout.aboutNavigation->push(new AboutController(AboutRows::shipped(), services.urls), false);

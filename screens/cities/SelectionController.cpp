@@ -41,8 +41,7 @@ QScrollBar::add-page:vertical, QScrollBar::sub-page:vertical { background: none;
 )";
 
 // The nearest enclosing widget of a kind: the stack and the tab bar this screen sits in.
-template <typename Container>
-Container* enclosing(const QWidget* widget)
+template <typename Container> Container* enclosing(const QWidget* widget)
 {
     for (QWidget* up = widget->parentWidget(); up; up = up->parentWidget())
         if (auto* found = qobject_cast<Container*>(up))
@@ -81,9 +80,9 @@ QListWidget* makeCreateRow(QWidget* parent)
 }  // namespace
 
 SelectionController::SelectionController(MyDB& db, std::function<void()> rebuildReminders, QWidget* parent)
-    : QWidget(parent), db_(db), cities_(db, std::move(rebuildReminders)),
-      tblScrollView_(new QScrollArea(this)), listHolder_(new QWidget), tbl_(new EditableCityList(listHolder_)),
-      btnSearch_(new QPushButton(tr("جستجو"), this)), btnDone_(new QPushButton(tr("تمام"), this))
+    : QWidget(parent), db_(db), cities_(db, std::move(rebuildReminders)), tblScrollView_(new QScrollArea(this)),
+      listHolder_(new QWidget), tbl_(new EditableCityList(listHolder_)), btnSearch_(new QPushButton(tr("جستجو"), this)),
+      btnDone_(new QPushButton(tr("تمام"), this))
 {
     setWindowTitle(tr("شهرها"));
     setAutoFillBackground(true);
@@ -126,9 +125,8 @@ void SelectionController::showCities()
     if (auto* tabs = tabBarController())
         tabs->setPreferencesEnabled(cities_.preferencesEnabled());
     // The holder is always a point taller than the list; a bar shows only when rows are hidden.
-    tblScrollView_->setVerticalScrollBarPolicy(cities_.listHeight() > ChosenCities::minimumListHeight
-                                                   ? Qt::ScrollBarAsNeeded
-                                                   : Qt::ScrollBarAlwaysOff);
+    tblScrollView_->setVerticalScrollBarPolicy(
+        cities_.listHeight() > ChosenCities::minimumListHeight ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
     tbl_->setGeometry(0, 0, ChosenCities::scrollContentWidth, cities_.listHeight());
     listHolder_->resize(ChosenCities::scrollContentWidth, cities_.scrollContentHeight());
     // The rows are laid out now, not at the next turn of the event loop: a flip that brings

@@ -40,7 +40,6 @@ public slots:
     void ShowWebSite();
 
 public:
-
     const ChosenCities& cities() const { return cities_; }
     EditableCityList* tbl() const { return tbl_; }
     QListWidget* createNewCityTable() const { return createNewCityTable_; }

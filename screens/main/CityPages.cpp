@@ -29,7 +29,8 @@ void CityPages::updateDataSource(const DateTimePersian& date)
         const bool centre = valueOf(city, "IsCenter") == "1";
         const std::string name = valueOf(city, "Name");
         const int id = intValue(valueOf(city, "StateID"));
-        const int timesId = centre ? id : intValue(db_.ExecuteScaler(formatSql(sql::provinceCentreOfCity, {id})).value_or(""));
+        const int timesId =
+            centre ? id : intValue(db_.ExecuteScaler(formatSql(sql::provinceCentreOfCity, {id})).value_or(""));
 
         Row page = dayRow(dateKey, timesId, name);
         if (!centre) {

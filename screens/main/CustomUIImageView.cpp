@@ -49,7 +49,7 @@ void CustomUIImageView::paintEvent(QPaintEvent*)
 }
 
 QLabel* CustomUIImageView::addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
-                                   const std::string& text)
+                                    const std::string& text)
 {
     const QRect area(frame.x, top_ + frame.y, frame.width, frame.height);
     auto* label = new ShadowedLabel(QString::fromStdString(text), area, QPoint(-1, shadowDown), this);

@@ -28,7 +28,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QLabel* addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown, const std::string& text);
+    QLabel* addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
+                     const std::string& text);
 
     QPixmap background_;
     int top_ = 0;

@@ -26,8 +26,7 @@ std::string firstOccasion(const std::string& description)
 DayPage::DayPage(const Row& row, int index, DateTimePersian& date, int screenHeight)
     : frame_{CityPages::pageWidth * index, screenHeight == tallScreenHeight ? tallScreenTop : 0, CityPages::pageWidth,
              CityPages::pageHeight},
-      name_(valueOf(row, "Name")),
-      occasion_(Utility::ConvertToPersian(firstOccasion(valueOf(row, "Description")))),
+      name_(valueOf(row, "Name")), occasion_(Utility::ConvertToPersian(firstOccasion(valueOf(row, "Description")))),
       date_(Utility::ConvertToPersian(date.getFullPersianDate()))
 {
     for (int k = 1; k <= timeCount; ++k) {

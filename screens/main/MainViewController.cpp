@@ -37,7 +37,8 @@ QAbstractButton* calendarButton(const std::filesystem::path& resourceFolder, QWi
     button->setAutoRaise(true);
     button->setIcon(QIcon(QString::fromStdString((resourceFolder / "calendarBtn.png").string())));
     button->setIconSize(QSize(34, 32));
-    button->setStyleSheet(QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"));
+    button->setStyleSheet(
+        QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"));
     return button;
 }
 

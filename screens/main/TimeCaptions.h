@@ -8,8 +8,7 @@ namespace kavenda {
 // What the day page's eight time rows are. The page artwork draws them beside the rows and the
 // page writes only the values, so a screen reader takes them from here.
 inline constexpr std::array<std::string_view, 8> timeCaptions{
-    "اذان صبح", "طلوع آفتاب", "اذان ظهر", "غروب آفتاب", "اذان مغرب", "نیمه شب شرعی", "اذان صبح فردا",
-    "طلوع آفتاب فردا",
+    "اذان صبح", "طلوع آفتاب", "اذان ظهر", "غروب آفتاب", "اذان مغرب", "نیمه شب شرعی", "اذان صبح فردا", "طلوع آفتاب فردا",
 };
 
 }  // namespace kavenda

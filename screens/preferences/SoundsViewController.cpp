@@ -17,12 +17,12 @@ namespace kavenda {
 
 namespace {
 
-constexpr int kRowHeight = 32;
-constexpr int kMarkSize = 20;
+constexpr int rowHeight = 32;
+constexpr int markSize = 20;
 
 QIcon checkmark(bool shown)
 {
-    QPixmap mark(kMarkSize, kMarkSize);
+    QPixmap mark(markSize, markSize);
     mark.fill(Qt::transparent);
     if (shown) {
         QPainter painter(&mark);
@@ -46,7 +46,7 @@ SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPl
       alerts_(alerts), saveButton_(makeSaveButton(this))
 {
     layout_->setupUi(this);
-    layout_->tbl->setIconSize(QSize(kMarkSize, kMarkSize));
+    layout_->tbl->setIconSize(QSize(markSize, markSize));
     layout_->btnOwnFile->setAccessibleName(layout_->btnOwnFile->text());
     choice_.load();
     buildRows();
@@ -73,7 +73,7 @@ void SoundsViewController::buildRows()
         const QString label = QString::fromStdString(SoundChoice::label(row));
         auto* item = new QListWidgetItem(label, layout_->tbl);
         item->setData(Qt::AccessibleTextRole, label);
-        item->setSizeHint(QSize(0, kRowHeight));
+        item->setSizeHint(QSize(0, rowHeight));
         choice_.cellForRow(row);
     }
     showCheckmark();
@@ -133,9 +133,8 @@ void SoundsViewController::useOwnRecording(const QString& file)
         didSelectRow(*row);
         return;
     }
-    const QString reason = result == SoundChoice::OwnRecording::notPlayable
-        ? QStringLiteral("صدایی نیست که پخش شود")
-        : QStringLiteral("در پوشهٔ داده ها کپی نشد");
+    const QString reason = result == SoundChoice::OwnRecording::notPlayable ? QStringLiteral("صدایی نیست که پخش شود")
+                                                                            : QStringLiteral("در پوشهٔ داده ها کپی نشد");
     if (alerts_)
         alerts_->show("",
                       QStringLiteral("فایل «%1» %2. صدای «%3» تغییری نکرد.")

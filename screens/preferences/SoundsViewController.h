@@ -29,8 +29,7 @@ class SoundsViewController : public QWidget {
 
 public:
     // Without an audio player there are no previews; without alerts a refusal is not shown.
-    SoundsViewController(MyDB& db, const Paths& paths, AudioPlayer* audio, Alerts* alerts,
-                         QWidget* parent = nullptr);
+    SoundsViewController(MyDB& db, const Paths& paths, AudioPlayer* audio, Alerts* alerts, QWidget* parent = nullptr);
     ~SoundsViewController() override;
 
     const SoundChoice& choice() const { return choice_; }

@@ -9,7 +9,10 @@ namespace kavenda::test {
 
 class RecordingAlerts final : public Alerts {
 public:
-    void show(const std::string&, const std::string& message, const std::string&) override { messages.push_back(message); }
+    void show(const std::string&, const std::string& message, const std::string&) override
+    {
+        messages.push_back(message);
+    }
     std::vector<std::string> messages;
 };
 

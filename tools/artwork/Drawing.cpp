@@ -10,7 +10,8 @@
 
 namespace kavenda::artwork {
 
-QFont persianFont(int pixelSize, bool bold) {
+QFont persianFont(int pixelSize, bool bold)
+{
     const QStringList installed = QFontDatabase::families();
     QString family = QStringLiteral("DejaVu Sans");
     for (const QString& candidate : {QStringLiteral("Nazli"), QStringLiteral("Homa")})
@@ -25,13 +26,15 @@ QFont persianFont(int pixelSize, bool bold) {
     return font;
 }
 
-void drawPersian(QPainter& painter, const QRectF& rect, const QString& text, Qt::Alignment alignment) {
+void drawPersian(QPainter& painter, const QRectF& rect, const QString& text, Qt::Alignment alignment)
+{
     QTextOption option(alignment);
     option.setTextDirection(Qt::RightToLeft);
     painter.drawText(rect, text, option);
 }
 
-void drawStar(QPainter& painter, QPointF centre, double outer, double inner, const QColor& colour) {
+void drawStar(QPainter& painter, QPointF centre, double outer, double inner, const QColor& colour)
+{
     QPainterPath star;
     for (int i = 0; i < 16; ++i) {
         const double angle = i * std::numbers::pi / 8.0 - std::numbers::pi / 2.0;

@@ -6,7 +6,8 @@
 
 namespace kavenda::artwork {
 
-QImage calendarButton() {
+QImage calendarButton()
+{
     QImage image(34, 32, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);
@@ -38,7 +39,8 @@ QImage calendarButton() {
     return image;
 }
 
-QImage appIcon(int size) {
+QImage appIcon(int size)
+{
     QImage image(size, size, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

@@ -15,11 +15,13 @@ constexpr int firstRowY = 108;
 constexpr int rowStep = 38;
 constexpr int rowHeight = 40;
 
-QString caption(int row) {
+QString caption(int row)
+{
     return QString::fromUtf8(timeCaptions[static_cast<std::size_t>(row)]);
 }
 
-void paintSky(QPainter& painter, const QRectF& page) {
+void paintSky(QPainter& painter, const QRectF& page)
+{
     QLinearGradient sky(0, 0, 0, page.height());
     sky.setColorAt(0.0, QColor(0x2c, 0x55, 0x78));
     sky.setColorAt(0.45, QColor(0x19, 0x33, 0x50));
@@ -33,14 +35,16 @@ void paintSky(QPainter& painter, const QRectF& page) {
     drawStar(painter, QPointF(290, 22), 15, 8, QColor(0xf3, 0xe0, 0xb8, 60));
 }
 
-void paintTitle(QPainter& painter) {
+void paintTitle(QPainter& painter)
+{
     painter.setFont(persianFont(17, true));
     painter.setPen(QColor(0xf3, 0xe0, 0xb8));
     drawPersian(painter, QRectF(50, 2, 220, 40), QStringLiteral("اوقات شرعی"), Qt::AlignCenter);
 }
 
 // The panel behind the name and date (y 45..85) and the occasion (y 70..110).
-void paintInfoPanel(QPainter& painter) {
+void paintInfoPanel(QPainter& painter)
+{
     painter.setPen(QPen(QColor(255, 255, 255, 70), 1.0));
     painter.setBrush(QColor(255, 255, 255, 26));
     painter.drawRoundedRect(QRectF(12.5, 47.5, 295, 57), 10, 10);
@@ -48,7 +52,8 @@ void paintInfoPanel(QPainter& painter) {
     painter.drawLine(QPointF(30, 80.5), QPointF(290, 80.5));
 }
 
-void paintRow(QPainter& painter, int row) {
+void paintRow(QPainter& painter, int row)
+{
     const double top = firstRowY + rowStep * row;
     const bool tomorrow = row >= 6;
     const QRectF frame(12.5, top + 4.5, 295, rowHeight - 9);
@@ -71,7 +76,8 @@ void paintRow(QPainter& painter, int row) {
 }
 
 // The strip under the rows where the page indicator and the buttons sit.
-void paintFooter(QPainter& painter, const QRectF& page) {
+void paintFooter(QPainter& painter, const QRectF& page)
+{
     QLinearGradient shade(0, 418, 0, page.height());
     shade.setColorAt(0.0, QColor(0, 0, 0, 0));
     shade.setColorAt(1.0, QColor(0, 0, 0, 90));
@@ -80,7 +86,8 @@ void paintFooter(QPainter& painter, const QRectF& page) {
 
 }  // namespace
 
-QImage mainView() {
+QImage mainView()
+{
     QImage image(320, 460, QImage::Format_ARGB32_Premultiplied);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);

@@ -6,7 +6,8 @@
 
 namespace kavenda::artwork {
 
-QImage pickerRound() {
+QImage pickerRound()
+{
     QImage image(280, 64, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     QPainter painter(&image);

@@ -11,7 +11,8 @@
 #include <iostream>
 #include <string_view>
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv)
+{
     QGuiApplication application(argc, argv);
     if (argc == 4 && std::string_view(argv[1]) == "--icon") {
         const int size = std::atoi(argv[2]);
@@ -25,6 +26,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     const QDir folder(QString::fromLocal8Bit(argv[1]));
+    // clang-format off
     const std::pair<const char*, QImage> images[] = {
         {"MainView.png", kavenda::artwork::mainView()},
         {"calendarBtn.png", kavenda::artwork::calendarButton()},
@@ -36,6 +38,7 @@ int main(int argc, char** argv) {
         {"today.png", kavenda::artwork::dayToday()},
         {"pickerRound.png", kavenda::artwork::pickerRound()},
     };
+    // clang-format on
     for (const auto& [name, image] : images) {
         if (!image.save(folder.filePath(QString::fromLatin1(name)))) {
             std::cerr << "make_artwork: cannot write " << name << '\n';

@@ -85,8 +85,8 @@ double sunAltitude(const Place& place, double jd)
 struct MoonPlace {
     ln_equ_posn geocentric;
     ln_equ_posn topocentric;
-    double altitude;      // geocentric, airless
-    double parallax;      // horizontal, degrees
+    double altitude;  // geocentric, airless
+    double parallax;  // horizontal, degrees
     double semiDiameter;  // topocentric, arc minutes
 };
 
@@ -113,8 +113,7 @@ MoonPlace moonPlace(const Place& place, double jd)
 }
 
 // The moment in [from, to] at which `above(t)` turns from true to false, to a few seconds.
-template <typename Above>
-double lastMomentAbove(double from, double to, Above above)
+template <typename Above> double lastMomentAbove(double from, double to, Above above)
 {
     while (to - from > 0.05 * minute) {
         const double middle = (from + to) / 2;
@@ -175,8 +174,7 @@ CrescentEvening crescentEvening(const Place& place, long julianDayNumber)
 
 double CrescentEvening::yallopQ() const
 {
-    return (arcv - (11.8371 - 6.3226 * width + 0.7319 * width * width - 0.1018 * width * width * width)) /
-           10.0;
+    return (arcv - (11.8371 - 6.3226 * width + 0.7319 * width * width - 0.1018 * width * width * width)) / 10.0;
 }
 
 }  // namespace kavenda::astronomy

@@ -5,8 +5,8 @@ namespace kavenda::astronomy {
 // The sun's apparent place for a moment, by the low-precision formulae of the Astronomical
 // Almanac (good to about 0.01 degree, i.e. well under a minute of time, for 1950 to 2050).
 struct SunPosition {
-    double declination;      // degrees, north positive
-    double equationOfTime;   // minutes: apparent solar time minus mean solar time
+    double declination;  // degrees, north positive
+    double equationOfTime;  // minutes: apparent solar time minus mean solar time
 };
 
 // The Julian day of a Gregorian civil date at 0h UT.

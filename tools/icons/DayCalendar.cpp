@@ -41,8 +41,7 @@ int weekday(long julianDayNumber)
 }
 
 DayCalendar::DayCalendar(int firstPersianYear)
-    : persian_(calendarFor("fa_IR@calendar=persian")),
-      gregorian_(calendarFor("en_US@calendar=gregorian"))
+    : persian_(calendarFor("fa_IR@calendar=persian")), gregorian_(calendarFor("en_US@calendar=gregorian"))
 {
     persian_->clear();
     persian_->set(firstPersianYear, 0, 1, 12, 0, 0);
@@ -59,8 +58,13 @@ CalendarDay DayCalendar::current() const
         throw std::runtime_error("calendar conversion failed");
     const int year = field(*gregorian_, UCAL_YEAR), month = field(*gregorian_, UCAL_MONTH) + 1;
     const int day = field(*gregorian_, UCAL_DATE);
-    return CalendarDay{field(*persian_, UCAL_YEAR), field(*persian_, UCAL_MONTH) + 1, field(*persian_, UCAL_DATE),
-                       year, month, day, julianDayNumber(year, month, day)};
+    return CalendarDay{field(*persian_, UCAL_YEAR),
+                       field(*persian_, UCAL_MONTH) + 1,
+                       field(*persian_, UCAL_DATE),
+                       year,
+                       month,
+                       day,
+                       julianDayNumber(year, month, day)};
 }
 
 void DayCalendar::next()

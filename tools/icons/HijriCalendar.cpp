@@ -32,8 +32,8 @@ HijriCalendar::HijriCalendar(std::vector<HijriMonthStart> table, long lastDay) :
             throw std::runtime_error("Hijri month " + name(expected) + " is missing before " + name(months_[i]));
         const long length = months_[i].firstDay - months_[i - 1].firstDay;
         if (length != 29 && length != 30)
-            throw std::runtime_error("Hijri month " + name(months_[i - 1]) + " has " + std::to_string(length) +
-                                     " days");
+            throw std::runtime_error("Hijri month " + name(months_[i - 1]) + " has " + std::to_string(length)
+                                     + " days");
     }
     while (months_.back().firstDay <= lastDay) {
         HijriMonthStart next = following(months_.back());

@@ -7,8 +7,7 @@ namespace {
 constexpr int ramadan = 9;
 constexpr const char* qudsDay = "روز جهانی قدس";
 
-void collect(DayEvents& events, const std::vector<Occasion>& occasions, int year, int month, int day,
-             int monthLength)
+void collect(DayEvents& events, const std::vector<Occasion>& occasions, int year, int month, int day, int monthLength)
 {
     for (const Occasion& o : occasions) {
         // An occasion on day 30 of a 29-day month falls on its last day.

@@ -25,8 +25,8 @@ std::vector<std::vector<std::string>> readTable(const std::filesystem::path& fil
         for (std::string field; std::getline(split, field, '\t');)
             fields.push_back(field);
         if (fields.size() != columns)
-            throw std::runtime_error(file.string() + ":" + std::to_string(number) + ": expected " +
-                                     std::to_string(columns) + " fields");
+            throw std::runtime_error(file.string() + ":" + std::to_string(number) + ": expected "
+                                     + std::to_string(columns) + " fields");
         rows.push_back(std::move(fields));
     }
     return rows;
@@ -44,7 +44,8 @@ std::vector<Occasion> readOccasions(const std::filesystem::path& file, std::size
 {
     std::vector<Occasion> occasions;
     for (const auto& f : readTable(file, 4 + skippedColumns))
-        occasions.push_back({std::stoi(f[0]), std::stoi(f[1]), std::stoi(f[2 + skippedColumns]), f[3 + skippedColumns]});
+        occasions.push_back(
+            {std::stoi(f[0]), std::stoi(f[1]), std::stoi(f[2 + skippedColumns]), f[3 + skippedColumns]});
     return occasions;
 }
 

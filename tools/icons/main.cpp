@@ -75,7 +75,10 @@ public:
     Insert prepare(const char* sql) { return Insert(db_, sql); }
 
 private:
-    [[noreturn]] void fail(const char* what) { throw std::runtime_error(std::string(what) + ": " + sqlite3_errmsg(db_)); }
+    [[noreturn]] void fail(const char* what)
+    {
+        throw std::runtime_error(std::string(what) + ": " + sqlite3_errmsg(db_));
+    }
     sqlite3* db_ = nullptr;
 };
 
@@ -139,10 +142,12 @@ void writeDays(Database& db, const std::vector<icons::Province>& provinces, cons
             const auto t = astronomy::dayTimes(place, day.gregorianYear, day.gregorianMonth, day.gregorianDay);
             char b[6][8];
             const std::string id = std::to_string(i + 1 + provinceCount);
-            const std::string texts[6] = {
-                std::string(astronomy::formatTime(t.dawn, b[0])),    std::string(astronomy::formatTime(t.sunrise, b[1])),
-                std::string(astronomy::formatTime(t.noon, b[2])),    std::string(astronomy::formatTime(t.sunset, b[3])),
-                std::string(astronomy::formatTime(t.evening, b[4])), std::string(astronomy::formatTime(t.midnight, b[5]))};
+            const std::string texts[6] = {std::string(astronomy::formatTime(t.dawn, b[0])),
+                                          std::string(astronomy::formatTime(t.sunrise, b[1])),
+                                          std::string(astronomy::formatTime(t.noon, b[2])),
+                                          std::string(astronomy::formatTime(t.sunset, b[3])),
+                                          std::string(astronomy::formatTime(t.evening, b[4])),
+                                          std::string(astronomy::formatTime(t.midnight, b[5]))};
             times.run({&id, &key, &texts[0], &texts[1], &texts[2], &texts[3], &texts[4], &texts[5]});
         }
         // The day after the last one carries only times: the next-day columns of the last day.
@@ -172,7 +177,8 @@ int main(int argc, char** argv)
         icons::HijriCalendar hijri(icons::readHijriMonthStarts(sources / "hijri-month-starts.tsv"), lastDay());
         const icons::OccasionCalendar occasions(firstYear, icons::readOccasions(sources / "occasions-1392.tsv", 1),
                                                 icons::readOccasions(sources / "solar-occasions.tsv"),
-                                                icons::readOccasions(sources / "lunar-occasions.tsv"), std::move(hijri));
+                                                icons::readOccasions(sources / "lunar-occasions.tsv"),
+                                                std::move(hijri));
         {
             Database db(partial);
             db.exec(readText(argv[2]));

@@ -14,9 +14,13 @@ namespace {
 constexpr double twoPi = 2.0 * std::numbers::pi;
 constexpr double rate = sampleRate;
 
-std::size_t sampleAt(double seconds) { return static_cast<std::size_t>(std::max(0.0, seconds) * rate); }
+std::size_t sampleAt(double seconds)
+{
+    return static_cast<std::size_t>(std::max(0.0, seconds) * rate);
+}
 
-double smoothstep(double x) {
+double smoothstep(double x)
+{
     x = std::clamp(x, 0.0, 1.0);
     return x * x * (3.0 - 2.0 * x);
 }
@@ -25,7 +29,8 @@ double smoothstep(double x) {
 class Comb {
 public:
     explicit Comb(std::size_t delay) : buffer_(delay, 0.0) {}
-    double process(double in) {
+    double process(double in)
+    {
         const double out = buffer_[index_];
         stored_ = out * 0.8 + stored_ * 0.2;
         buffer_[index_] = in + stored_ * 0.74;
@@ -42,7 +47,8 @@ private:
 class AllPass {
 public:
     explicit AllPass(std::size_t delay) : buffer_(delay, 0.0) {}
-    double process(double in) {
+    double process(double in)
+    {
         const double delayed = buffer_[index_];
         const double out = delayed - 0.5 * in;
         buffer_[index_] = in + 0.5 * delayed;
@@ -57,7 +63,8 @@ private:
 
 }  // namespace
 
-std::vector<double> sing(const Phrase& phrase) {
+std::vector<double> sing(const Phrase& phrase)
+{
     constexpr double glide = 0.07;
     constexpr double tail = 1.4;
     std::vector<double> starts;
@@ -96,15 +103,17 @@ std::vector<double> sing(const Phrase& phrase) {
         }
 
         dronePhase += twoPi * (phrase.tonicHz / 2.0) / rate;
-        const double drone = (std::sin(dronePhase) + 0.4 * std::sin(2.0 * dronePhase) + 0.25 * std::sin(3.0 * dronePhase)) *
-                             0.09 * smoothstep(t / 0.9) * (1.0 - smoothstep((t - length - 0.2) / 1.1));
+        const double drone =
+            (std::sin(dronePhase) + 0.4 * std::sin(2.0 * dronePhase) + 0.25 * std::sin(3.0 * dronePhase)) * 0.09
+            * smoothstep(t / 0.9) * (1.0 - smoothstep((t - length - 0.2) / 1.1));
         out[i] = 0.55 * voice * noteLevel * line + drone;
     }
     return out;
 }
 
-std::vector<double> bells(const std::vector<Strike>& strikes, const std::vector<double>& ratios,
-                          double decaySeconds, double totalSeconds) {
+std::vector<double> bells(const std::vector<Strike>& strikes, const std::vector<double>& ratios, double decaySeconds,
+                          double totalSeconds)
+{
     std::vector<double> out(sampleAt(totalSeconds), 0.0);
     for (const Strike& strike : strikes) {
         for (std::size_t j = 0; j < ratios.size(); ++j) {
@@ -122,7 +131,8 @@ std::vector<double> bells(const std::vector<Strike>& strikes, const std::vector<
     return out;
 }
 
-std::vector<double> tones(const std::vector<Tone>& parts, double totalSeconds) {
+std::vector<double> tones(const std::vector<Tone>& parts, double totalSeconds)
+{
     constexpr double fadeSeconds = 0.008;
     std::vector<double> out(sampleAt(totalSeconds), 0.0);
     for (const Tone& tone : parts) {
@@ -136,7 +146,8 @@ std::vector<double> tones(const std::vector<Tone>& parts, double totalSeconds) {
     return out;
 }
 
-void finish(std::vector<double>& samples, double reverbMix) {
+void finish(std::vector<double>& samples, double reverbMix)
+{
     std::array<Comb, 4> combs{Comb(558), Comb(594), Comb(638), Comb(678)};
     std::array<AllPass, 2> allPasses{AllPass(278), AllPass(110)};
     for (double& sample : samples) {

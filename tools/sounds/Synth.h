@@ -26,8 +26,8 @@ struct Strike {
     double atSeconds;
     double hz;
 };
-std::vector<double> bells(const std::vector<Strike>& strikes, const std::vector<double>& ratios,
-                          double decaySeconds, double totalSeconds);
+std::vector<double> bells(const std::vector<Strike>& strikes, const std::vector<double>& ratios, double decaySeconds,
+                          double totalSeconds);
 
 // Plain tones switched on and off: beeps and alarms.
 struct Tone {

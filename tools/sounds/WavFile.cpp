@@ -10,18 +10,22 @@ namespace kavenda::sounds {
 
 namespace {
 
-void tag(std::ofstream& out, std::string_view name) { out.write(name.data(), static_cast<std::streamsize>(name.size())); }
+void tag(std::ofstream& out, std::string_view name)
+{
+    out.write(name.data(), static_cast<std::streamsize>(name.size()));
+}
 
 // WAV numbers are little-endian whatever the machine.
-template <typename Int>
-void put(std::ofstream& out, Int value) {
+template <typename Int> void put(std::ofstream& out, Int value)
+{
     for (std::size_t i = 0; i < sizeof(Int); ++i)
         out.put(static_cast<char>((static_cast<std::uint32_t>(value) >> (8 * i)) & 0xff));
 }
 
 }  // namespace
 
-bool writeWav(const std::filesystem::path& file, const std::vector<double>& samples) {
+bool writeWav(const std::filesystem::path& file, const std::vector<double>& samples)
+{
     std::ofstream out(file, std::ios::binary);
     if (!out)
         return false;
@@ -43,7 +47,9 @@ bool writeWav(const std::filesystem::path& file, const std::vector<double>& samp
     tag(out, "data");
     put(out, dataBytes);
     for (double sample : samples)
-        put(out, static_cast<std::uint16_t>(static_cast<std::int16_t>(std::lround(std::clamp(sample, -1.0, 1.0) * 32767.0))));
+        put(out,
+            static_cast<std::uint16_t>(
+                static_cast<std::int16_t>(std::lround(std::clamp(sample, -1.0, 1.0) * 32767.0))));
     return static_cast<bool>(out);
 }
 

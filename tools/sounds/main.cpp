@@ -15,7 +15,9 @@ using namespace kavenda::sounds;
 namespace {
 
 // Nine phrases, each in its own mode and register, all coming home to the tonic.
-std::vector<Phrase> calls() {
+std::vector<Phrase> calls()
+{
+    // clang-format off
     return {
         // Bayati: the neutral second of the quarter-tone modes.
         {220.0, 0.42, 0.55, {{0, 1}, {1.5, 0.5}, {3, 0.5}, {5, 1.5}, {3, 0.5}, {5, 0.5}, {7, 1}, {5, 0.5}, {3, 0.5}, {1.5, 1}, {0, 2.5}}},
@@ -36,9 +38,11 @@ std::vector<Phrase> calls() {
         // Shur: the mother mode of Persian song, turning around its fourth.
         {185.0, 0.43, 0.55, {{5, 1}, {3, 0.5}, {1.5, 0.5}, {3, 1}, {5, 0.5}, {7, 1.5}, {5, 0.5}, {3, 0.5}, {1.5, 1}, {0, 2.5}}},
     };
+    // clang-format on
 }
 
-std::vector<std::pair<std::string, std::vector<double>>> allSounds() {
+std::vector<std::pair<std::string, std::vector<double>>> allSounds()
+{
     std::vector<std::pair<std::string, std::vector<double>>> sounds;
     int number = 0;
     for (const Phrase& phrase : calls()) {
@@ -59,13 +63,15 @@ std::vector<std::pair<std::string, std::vector<double>>> allSounds() {
     const std::vector<double> tubular{1.0, 2.76, 5.40, 8.93};
     add("11.wav", bells({{0.0, 659.3}, {0.45, 523.3}, {0.9, 392.0}}, tubular, 0.9, 3.5), 0.3);
     add("12.wav", bells({{0.0, 196.0}}, {1.0, 2.0, 2.4, 3.0, 4.5}, 1.6, 4.5), 0.4);
-    add("times.wav", bells({{0.0, 523.3}, {0.22, 659.3}, {0.44, 784.0}, {0.66, 1046.5}}, {1.0, 3.0, 4.2}, 0.5, 2.5), 0.25);
+    add("times.wav", bells({{0.0, 523.3}, {0.22, 659.3}, {0.44, 784.0}, {0.66, 1046.5}}, {1.0, 3.0, 4.2}, 0.5, 2.5),
+        0.25);
     return sounds;
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main(int argc, char** argv)
+{
     if (argc != 2) {
         std::cerr << "usage: make_sounds <folder>\n";
         return 2;

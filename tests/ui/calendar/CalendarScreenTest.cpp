@@ -46,8 +46,10 @@ bool inkStartsRight(QListWidget* list, int row)
 struct CalendarFixture {
     explicit CalendarFixture(Instant now) : f(now, 480, MainScreenFixture::Data::shippedWhereBuilt)
     {
-        for (const char* image : {"calendarBG.png", "hasEvent.png", "selectedWithEvent.png", "selected.png", "today.png"})
-            std::filesystem::copy_file(std::filesystem::path(KAVENDA_RESOURCE_DIR) / image, f.paths.resourceFolder() / image);
+        for (const char* image :
+             {"calendarBG.png", "hasEvent.png", "selectedWithEvent.png", "selected.png", "today.png"})
+            std::filesystem::copy_file(std::filesystem::path(KAVENDA_RESOURCE_DIR) / image,
+                                       f.paths.resourceFolder() / image);
         f.choose({f.centreNamed("تهران")});
     }
 
@@ -133,14 +135,21 @@ private slots:
         QAccessibleInterface* selected = QAccessible::queryAccessibleInterface(buttons.at(20));
         QVERIFY(selected->state().checked);
         QVERIFY(!QAccessible::queryAccessibleInterface(buttons.at(19))->state().checked);
-        QCOMPARE(QAccessible::queryAccessibleInterface(calendar.monthLbl())->text(QAccessible::Name), QStringLiteral("فروردین"));
-        QCOMPARE(c.rows(calendar), QStringList{QStringLiteral("روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی")});
+        QCOMPARE(QAccessible::queryAccessibleInterface(calendar.monthLbl())->text(QAccessible::Name),
+                 QStringLiteral("فروردین"));
+        QCOMPARE(c.rows(calendar),
+                 QStringList{QStringLiteral(
+                     "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی")});
         for (const char* name : {"previousButton", "nextButton", "todayButton", "detailsButton"})
             QVERIFY(calendar.findChild<QAbstractButton*>(QLatin1String(name))->isVisible());
-        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("previousButton"))->accessibleName(), QStringLiteral("ماه قبل"));
-        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("nextButton"))->accessibleName(), QStringLiteral("ماه بعد"));
-        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("todayButton"))->accessibleName(), QStringLiteral("امروز"));
-        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("detailsButton"))->accessibleName(), QStringLiteral("انتخاب"));
+        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("previousButton"))->accessibleName(),
+                 QStringLiteral("ماه قبل"));
+        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("nextButton"))->accessibleName(),
+                 QStringLiteral("ماه بعد"));
+        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("todayButton"))->accessibleName(),
+                 QStringLiteral("امروز"));
+        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("detailsButton"))->accessibleName(),
+                 QStringLiteral("انتخاب"));
         c.f.saveScreenshot(QStringLiteral("calendar-1392-01.png"));
 
         // A step back from Farvardin does nothing.
@@ -201,8 +210,9 @@ private slots:
         QCOMPARE(c.rows(calendar), QStringList{QStringLiteral("روز قلم")});
         // 3 Tir 1392 is a holiday and 7 Tir a Friday; 4 Tir is neither
         for (const auto& [day, said] : {std::pair{3, "تعطیل"}, std::pair{7, "تعطیل"}, std::pair{4, ""}})
-            QCOMPARE(QAccessible::queryAccessibleInterface(calendar.dayButtons().at(day))->text(QAccessible::Description),
-                     QString::fromUtf8(said));
+            QCOMPARE(
+                QAccessible::queryAccessibleInterface(calendar.dayButtons().at(day))->text(QAccessible::Description),
+                QString::fromUtf8(said));
         c.f.saveScreenshot(QStringLiteral("calendar-1392-04-three-occasions.png"));
     }
 

@@ -236,8 +236,9 @@ private slots:
         RecordingSearchDelegate delegate;
         SearchController search(f.db(), 1);
         search.setDelegate(&delegate);
-        QCOMPARE(resultNames(search), (QStringList{QStringLiteral("اصفهان"), QStringLiteral("تهران"),
-                                                   QStringLiteral("کرمان"), QStringLiteral("یزد")}));
+        QCOMPARE(resultNames(search),
+                 (QStringList{QStringLiteral("اصفهان"), QStringLiteral("تهران"), QStringLiteral("کرمان"),
+                              QStringLiteral("یزد")}));
         QTest::mouseClick(search.cancelButton(), Qt::LeftButton);
         QCOMPARE(delegate.calls, QStringList{QStringLiteral("closeForm")});
 
@@ -373,8 +374,8 @@ private slots:
     {
         OptionsFixture f;
         for (int id = 40; id < 44; ++id)
-            QVERIFY(f.db().ExecuteNonQuery("INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES(" +
-                                           std::to_string(id) + ", 'ری', 1, 0)"));
+            QVERIFY(f.db().ExecuteNonQuery("INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES("
+                                           + std::to_string(id) + ", 'ری', 1, 0)"));
         f.choose({tehran, isfahan, kerman, yazd, kashan, shahriar, 40, 41, 42, 43});
         f.open();
         QScrollArea* holder = f.selection()->tblScrollView();
@@ -463,8 +464,9 @@ private slots:
             QCOMPARE(face->state().selected, tab == 0);
             QCOMPARE(face->state().disabled, false);
         }
-        QAccessible::queryAccessibleInterface(f.tabs()->tabButton(4))->actionInterface()->doAction(
-            QAccessibleActionInterface::pressAction());
+        QAccessible::queryAccessibleInterface(f.tabs()->tabButton(4))
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(f.tabs()->currentIndex(), 4);
         QTest::mouseClick(f.tabs()->tabButton(0), Qt::LeftButton);
 

@@ -94,13 +94,14 @@ private slots:
         QCOMPARE(editor->nameField()->placeholderText(), persian("بدون نام"));
         QCOMPARE(editor->nameField()->text(), QString());
         QCOMPARE(editor->provinceValue()->text(), QString());
-        QCOMPARE(editor->sectionHeader()->text(), persian("اختلاف تا مرکز استان(دقیقه)") + QString(7, QLatin1Char(' ')));
+        QCOMPARE(editor->sectionHeader()->text(),
+                 persian("اختلاف تا مرکز استان(دقیقه)") + QString(7, QLatin1Char(' ')));
 
         const struct {
             const char* label;
             int size;
-        } rows[] = {{"اذان صبح", 17}, {"طلوع آفتاب", 16}, {"اذان ظهر", 17},
-                    {"غروب آفتاب", 16}, {"اذان مغرب", 17}, {"نیمه شب شرعی", 12}};
+        } rows[] = {{"اذان صبح", 17},   {"طلوع آفتاب", 16}, {"اذان ظهر", 17},
+                    {"غروب آفتاب", 16}, {"اذان مغرب", 17},  {"نیمه شب شرعی", 12}};
         for (int i = 0; i < NewCityController::offsetCount; ++i) {
             QCOMPARE(editor->rowLabel(i)->text(), persian(rows[i].label));
             QCOMPARE(editor->rowLabel(i)->font().pixelSize(), rows[i].size);
@@ -236,6 +237,7 @@ private slots:
             QWidget* widget;
             QAccessible::Role role;
             const char* name;
+            // clang-format off
         } controls[] = {
             {editor->nameField(), QAccessible::EditableText, "نام شهر"},
             {editor->provinceRow(), QAccessible::Button, "استان"},
@@ -244,6 +246,7 @@ private slots:
             {editor->slider(0), QAccessible::Slider, "اذان صبح"},
             {editor->slider(5), QAccessible::Slider, "نیمه شب شرعی"},
         };
+        // clang-format on
         for (const auto& c : controls) {
             QAccessibleInterface* accessible = QAccessible::queryAccessibleInterface(c.widget);
             QVERIFY(accessible);

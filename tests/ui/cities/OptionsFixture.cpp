@@ -30,8 +30,8 @@ std::filesystem::path resourcesOf(const TempFolder& temp)
 
 OptionsFixture::OptionsFixture()
     : paths_(temp_.path() / "documents", resourcesOf(temp_)), db_("Icons", paths_, log_),
-      clock_(tehran(2013, 5, 22, 0, 1)),
-      reminders_(db_, clock_, calendar_, notifications, random_, log_), window_(std::make_unique<QWidget>())
+      clock_(tehran(2013, 5, 22, 0, 1)), reminders_(db_, clock_, calendar_, notifications, random_, log_),
+      window_(std::make_unique<QWidget>())
 {
     window_->setFixedSize(320, 460);
     auto* layout = new QVBoxLayout(window_.get());
@@ -48,8 +48,8 @@ void OptionsFixture::choose(std::initializer_list<int> stateIds)
 {
     int ordering = 0;
     for (int id : stateIds)
-        QVERIFY(db_.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(" + std::to_string(id) + ", " +
-                                    std::to_string(ordering++) + ")"));
+        QVERIFY(db_.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(" + std::to_string(id) + ", "
+                                    + std::to_string(ordering++) + ")"));
 }
 
 void OptionsFixture::open()

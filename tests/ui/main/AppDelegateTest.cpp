@@ -3,8 +3,8 @@
 #include "platform/Alerts.h"
 #include "platform/FixedClock.h"
 #include "platform/FixedPaths.h"
-#include "platform/IcuPersianCalendar.h"
 #include "platform/FixedScreen.h"
+#include "platform/IcuPersianCalendar.h"
 #include "platform/qt/Animations.h"
 #include "platform/qt/PageIndicator.h"
 #include "platform/qt/Pager.h"
@@ -52,11 +52,15 @@ private slots:
     void initTestCase()
     {
         setAnimationsEnabled(false);
-        const auto database = test::buildFixtureDatabase(paths.resourceFolder(), {"fixture-data.sql", "main-screen.sql"});
-        test::execSql(database, "INSERT INTO tSelectedStates VALUES(32, 0); UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1;");
-        Platform::install({&clock, &calendar, &paths, &log, &notifications, &random, nullptr, nullptr, &alerts, &screen});
-        delegate = std::make_unique<AppDelegate>(Platform::installed(),
-                                                 [this](const NotificationRecord& record) { desktop.push_back(record); });
+        const auto database =
+            test::buildFixtureDatabase(paths.resourceFolder(), {"fixture-data.sql", "main-screen.sql"});
+        test::execSql(
+            database,
+            "INSERT INTO tSelectedStates VALUES(32, 0); UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1;");
+        Platform::install(
+            {&clock, &calendar, &paths, &log, &notifications, &random, nullptr, nullptr, &alerts, &screen});
+        delegate = std::make_unique<AppDelegate>(
+            Platform::installed(), [this](const NotificationRecord& record) { desktop.push_back(record); });
     }
 
     void launchCopiesTheDatabaseRebuildsTheRemindersAndShowsTheMainScreen()
@@ -91,8 +95,8 @@ private slots:
         QSignalSpy refreshed(&main, &MainViewController::refreshed);
         const int updates = notifications.cancelCalls;
 
-        for (QEvent::Type type : {QEvent::WindowDeactivate, QEvent::WindowActivate, QEvent::WindowDeactivate,
-                                  QEvent::WindowActivate})
+        for (QEvent::Type type :
+             {QEvent::WindowDeactivate, QEvent::WindowActivate, QEvent::WindowDeactivate, QEvent::WindowActivate})
             windowManagerSends(delegate->window(), type);
         QTest::qWait(50);
         QCOMPARE(refreshed.count(), 0);

@@ -13,7 +13,6 @@
 #include <QLabel>
 #include <QVBoxLayout>
 
-
 namespace kavenda::test {
 
 MainScreenFixture::MainScreenFixture(Instant now, int screenHeight, Data data)
@@ -48,14 +47,18 @@ void MainScreenFixture::choose(std::initializer_list<int> stateIds)
 
 int MainScreenFixture::centreNamed(const std::string& name)
 {
-    return std::stoi(db->ExecuteScaler("SELECT StateID FROM tStates WHERE IsCenter = 1 AND Name = '" + name + "'").value_or("0"));
+    return std::stoi(
+        db->ExecuteScaler("SELECT StateID FROM tStates WHERE IsCenter = 1 AND Name = '" + name + "'").value_or("0"));
 }
 
 void MainScreenFixture::copyDay(const std::string& dateKey)
 {
-    db->ExecuteNonQuery("INSERT INTO tTimes SELECT StateID, " + dateKey + ", T1, T2, T3, T4, T5, T6 FROM tTimes WHERE Date = 920410");
-    db->ExecuteNonQuery("INSERT INTO tTimes SELECT StateID, " + dateKey + " + 1, T1, T2, T3, T4, T5, T6 FROM tTimes WHERE Date = 920411");
-    db->ExecuteNonQuery("INSERT INTO tEvents SELECT " + dateKey + ", Description, IsHoliday FROM tEvents WHERE Date = 920410");
+    db->ExecuteNonQuery("INSERT INTO tTimes SELECT StateID, " + dateKey
+                        + ", T1, T2, T3, T4, T5, T6 FROM tTimes WHERE Date = 920410");
+    db->ExecuteNonQuery("INSERT INTO tTimes SELECT StateID, " + dateKey
+                        + " + 1, T1, T2, T3, T4, T5, T6 FROM tTimes WHERE Date = 920411");
+    db->ExecuteNonQuery("INSERT INTO tEvents SELECT " + dateKey
+                        + ", Description, IsHoliday FROM tEvents WHERE Date = 920410");
 }
 
 MainViewController& MainScreenFixture::show()
@@ -66,7 +69,8 @@ MainViewController& MainScreenFixture::show()
     layout->setContentsMargins(0, 0, 0, 0);
     presentation_ = new PresentationStack(window_.get());
     layout->addWidget(presentation_);
-    main_ = new MainViewController({*db, clock, calendar, screen, paths, [this] { ++reminderRebuilds; }}, *presentation_);
+    main_ =
+        new MainViewController({*db, clock, calendar, screen, paths, [this] { ++reminderRebuilds; }}, *presentation_);
     presentation_->setRoot(main_);
     window_->show();
     return *main_;

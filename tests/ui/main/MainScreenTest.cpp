@@ -1,10 +1,10 @@
 #include "app/PersianFont.h"
 #include "calendar/DateTimePersian.h"
+#include "platform/SystemClock.h"
 #include "platform/qt/Animations.h"
 #include "platform/qt/PageIndicator.h"
 #include "platform/qt/Pager.h"
 #include "platform/qt/PresentationStack.h"
-#include "platform/SystemClock.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/main/CustomUIImageView.h"
 #include "screens/main/MainViewController.h"
@@ -90,10 +90,12 @@ private slots:
         MainScreenFixture f(summerDay);
         f.choose({tehran});
         f.show();
-        const QStringList expected{
-            QStringLiteral("تهران"), QStringLiteral("روز صنعت و معدن و ..."), QStringLiteral("١٠ تیر"),
-            QStringLiteral("٠٤:٥١"), QStringLiteral("٠٦:٢٦"), QStringLiteral("١٣:٠٧"), QStringLiteral("٢٠:٢٥"),
-            QStringLiteral("٢٠:٤٥"), QStringLiteral("٠٠:١٦"), QStringLiteral("٠٤:٥٢"), QStringLiteral("٠٦:٢٧")};
+        const QStringList expected{QStringLiteral("تهران"),  QStringLiteral("روز صنعت و معدن و ..."),
+                                   QStringLiteral("١٠ تیر"), QStringLiteral("٠٤:٥١"),
+                                   QStringLiteral("٠٦:٢٦"),  QStringLiteral("١٣:٠٧"),
+                                   QStringLiteral("٢٠:٢٥"),  QStringLiteral("٢٠:٤٥"),
+                                   QStringLiteral("٠٠:١٦"),  QStringLiteral("٠٤:٥٢"),
+                                   QStringLiteral("٠٦:٢٧")};
         QCOMPARE(MainScreenFixture::texts(f.pages().first()), expected);
     }
 
@@ -105,9 +107,10 @@ private slots:
         const QStringList texts = MainScreenFixture::texts(f.pages().last());
         QCOMPARE(texts[0], QStringLiteral("ورامین"));
         // Five minutes before تهران's times, the next day's dawn and sunrise too.
-        QCOMPARE(texts.mid(3), (QStringList{QStringLiteral("٠٤:٤٦"), QStringLiteral("٠٦:٢١"), QStringLiteral("١٣:٠٢"),
-                                            QStringLiteral("٢٠:٢٠"), QStringLiteral("٢٠:٤٠"), QStringLiteral("٠٠:١١"),
-                                            QStringLiteral("٠٤:٤٧"), QStringLiteral("٠٦:٢٢")}));
+        QCOMPARE(texts.mid(3),
+                 (QStringList{QStringLiteral("٠٤:٤٦"), QStringLiteral("٠٦:٢١"), QStringLiteral("١٣:٠٢"),
+                              QStringLiteral("٢٠:٢٠"), QStringLiteral("٢٠:٤٠"), QStringLiteral("٠٠:١١"),
+                              QStringLiteral("٠٤:٤٧"), QStringLiteral("٠٦:٢٢")}));
         QCOMPARE(MainScreenFixture::texts(f.pages().first())[3], QStringLiteral("٠٤:٥١"));
     }
 
@@ -227,7 +230,8 @@ private slots:
         f.choose({tehran, isfahan, mashhad});
         MainViewController& main = f.show();
 
-        QAccessibleInterface* options = QAccessible::queryAccessibleInterface(main.findChild<QWidget*>(QStringLiteral("optionsButton")));
+        QAccessibleInterface* options =
+            QAccessible::queryAccessibleInterface(main.findChild<QWidget*>(QStringLiteral("optionsButton")));
         QCOMPARE(options->role(), QAccessible::Button);
         QCOMPARE(options->text(QAccessible::Name), QStringLiteral("گزینه ها"));
         QCOMPARE(accessibleName(main.findChild<QWidget*>(QStringLiteral("calendarButton"))), QStringLiteral("تقویم"));
@@ -268,8 +272,8 @@ private slots:
         QTest::addColumn<QRect>("options");
         QTest::addColumn<QRect>("calendar");
         QTest::addColumn<QRect>("nameLabel");
-        QTest::newRow("ordinary") << 480 << QRect(0, 0, 320, 460) << QRect(0, 425, 320, 36)
-                                  << QRect(290, 430, 18, 19) << QRect(15, 425, 34, 32) << QRect(500, 45, 100, 40);
+        QTest::newRow("ordinary") << 480 << QRect(0, 0, 320, 460) << QRect(0, 425, 320, 36) << QRect(290, 430, 18, 19)
+                                  << QRect(15, 425, 34, 32) << QRect(500, 45, 100, 40);
         QTest::newRow("tall") << 568 << QRect(0, 0, 320, 548) << QRect(0, 513, 320, 36) << QRect(290, 518, 18, 19)
                               << QRect(15, 513, 34, 32) << QRect(500, 89, 100, 40);
     }

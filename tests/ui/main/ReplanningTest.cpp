@@ -22,10 +22,11 @@ private slots:
         IcuPersianCalendar calendar;
         test::RecordingLog log;
         std::vector<std::string> calls;
-        Replanning replanning(clock, calendar, log, [&calls] { calls.push_back("deliver"); },
-                              [&calls](ReplanWatch::Change change) {
-                                  calls.push_back(change == ReplanWatch::Change::clockJump ? "jump" : "other");
-                              });
+        Replanning replanning(
+            clock, calendar, log, [&calls] { calls.push_back("deliver"); },
+            [&calls](ReplanWatch::Change change) {
+                calls.push_back(change == ReplanWatch::Change::clockJump ? "jump" : "other");
+            });
         QCOMPARE(calls, std::vector<std::string>{"deliver"});
 
         calls.clear();

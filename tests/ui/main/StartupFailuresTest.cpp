@@ -1,12 +1,12 @@
+#include "tests/support/FileText.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/TempFolder.h"
-#include "tests/support/FileText.h"
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <functional>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <string>
 #include <sys/wait.h>
@@ -65,18 +65,21 @@ protected:
 
 TEST_F(StartupFailures, AShippedDatabaseThatIsMissingOrUnreadableStopsTheStartAndCreatesNothing)
 {
+    // clang-format off
     const std::pair<const char*, std::function<void(const fs::path&)>> installs[] = {
         {"missing", [](const fs::path&) {}},
         {"not a database", [](const fs::path& resources) { std::ofstream(resources / "Icons") << "<html>404</html>"; }},
         {"a folder", [](const fs::path& resources) { fs::create_directory(resources / "Icons"); }},
     };
+    // clang-format on
     for (const auto& [what, fill] : installs) {
         const fs::path program = installedWith(fill);
         const Outcome result = start(program, "--reminders");
         EXPECT_EQ(result.status, 1) << what;
         const fs::path looked = program.parent_path().parent_path() / "resources" / "Icons";
-        EXPECT_EQ(result.err, "kavenda: cannot read the program's database " + looked.string()
-                                  + "; install the program again\n") << what;
+        EXPECT_EQ(result.err,
+                  "kavenda: cannot read the program's database " + looked.string() + "; install the program again\n")
+            << what;
         EXPECT_EQ(result.out, "") << what;
         EXPECT_TRUE(!fs::exists(data()) || fs::is_empty(data())) << what;
         fs::remove_all(temp.path() / "install");

@@ -63,8 +63,8 @@ private slots:
 
         notifications.schedule(
             {tehran(2026, 11, 23, 5, 20), "Asia/Tehran", "اذان صبح به افق تهران", "Ok", "3.wav", {}});
-        const NotificationRecord evening{tehran(2026, 11, 22, 17, 13), "Asia/Tehran", "اذان مغرب به افق تهران", "Ok",
-                                         "3.wav", {}};
+        const NotificationRecord evening{
+            tehran(2026, 11, 22, 17, 13), "Asia/Tehran", "اذان مغرب به افق تهران", "Ok", "3.wav", {}};
         notifications.schedule(evening);
         status.refresh();
         QCOMPARE(tray.toolTip(), QStringLiteral("اذان مغرب به افق تهران، ١٧:١٣ (٢ ساعت و ١٥ دقیقه دیگر)"));

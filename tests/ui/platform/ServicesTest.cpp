@@ -15,12 +15,19 @@ namespace {
 
 const Instant start{std::chrono::seconds{1'372'665'600}};
 
-NotificationRecord record(std::chrono::seconds after, const std::string& body) {
+NotificationRecord record(std::chrono::seconds after, const std::string& body)
+{
     return {start + after, "Asia/Tehran", body, "Ok", "0.wav", {}};
 }
 
-std::uint32_t word(const QByteArray& bytes, int at) { return qFromLittleEndian<quint32>(bytes.constData() + at); }
-std::uint16_t half(const QByteArray& bytes, int at) { return qFromLittleEndian<quint16>(bytes.constData() + at); }
+std::uint32_t word(const QByteArray& bytes, int at)
+{
+    return qFromLittleEndian<quint32>(bytes.constData() + at);
+}
+std::uint16_t half(const QByteArray& bytes, int at)
+{
+    return qFromLittleEndian<quint16>(bytes.constData() + at);
+}
 
 }  // namespace
 
@@ -28,7 +35,8 @@ class ServicesTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void deliversDueRecordsEarliestFirstAndKeepsTheRest() {
+    void deliversDueRecordsEarliestFirstAndKeepsTheRest()
+    {
         FixedClock clock(start);
         QtNotificationService service(clock);
         std::vector<std::string> delivered;
@@ -51,7 +59,8 @@ private slots:
         QCOMPARE(service.nextFireDate(), std::optional<Instant>(start + std::chrono::seconds{600}));
     }
 
-    void theTimerFiresAtTheMomentOfTheClock() {
+    void theTimerFiresAtTheMomentOfTheClock()
+    {
         FixedClock clock(start);
         QtNotificationService service(clock);
         std::vector<std::string> delivered;
@@ -66,7 +75,8 @@ private slots:
         QVERIFY(service.pending().empty());
     }
 
-    void cancelAllStopsWhatWasAboutToFire() {
+    void cancelAllStopsWhatWasAboutToFire()
+    {
         FixedClock clock(start);
         QtNotificationService service(clock);
         int deliveries = 0;
@@ -80,14 +90,16 @@ private slots:
         QCOMPARE(service.nextFireDate(), std::optional<Instant>());
     }
 
-    void soundsAreDistinctMonoPcmWaves_data() {
+    void soundsAreDistinctMonoPcmWaves_data()
+    {
         QTest::addColumn<QString>("name");
         for (const char* name : {"0.wav", "1.wav", "2.wav", "3.wav", "4.wav", "5.wav", "6.wav", "7.wav", "8.wav",
                                  "10.wav", "alarm.wav", "11.wav", "12.wav", "times.wav"})
             QTest::newRow(name) << QString::fromLatin1(name);
     }
 
-    void soundsAreDistinctMonoPcmWaves() {
+    void soundsAreDistinctMonoPcmWaves()
+    {
         QFETCH(QString, name);
         QFile file(QStringLiteral(KAVENDA_RESOURCE_DIR "/") + name);
         QVERIFY2(file.open(QIODevice::ReadOnly), qPrintable(name));

@@ -17,7 +17,8 @@
 namespace kavenda {
 namespace {
 
-QList<QWidget*> labels(int count) {
+QList<QWidget*> labels(int count)
+{
     QList<QWidget*> pages;
     for (int i = 0; i < count; ++i)
         pages.append(new QLabel(QString::number(i)));
@@ -32,7 +33,8 @@ class WidgetsTest : public QObject {
 private slots:
     void initTestCase() { setAnimationsEnabled(false); }
 
-    void pagerPlacesPagesAndReportsEveryOffset() {
+    void pagerPlacesPagesAndReportsEveryOffset()
+    {
         Pager pager;
         pager.resize(320, 460);
         pager.show();
@@ -55,7 +57,8 @@ private slots:
         QCOMPARE(pager.contentWidth(), 320);
     }
 
-    void pagerFollowsADragAndSnapsToTheNearestPage_data() {
+    void pagerFollowsADragAndSnapsToTheNearestPage_data()
+    {
         QTest::addColumn<double>("start");
         QTest::addColumn<int>("drag");
         QTest::addColumn<double>("settled");
@@ -66,7 +69,8 @@ private slots:
         QTest::newRow("never before the first") << 0.0 << 250 << 0.0;
     }
 
-    void pagerFollowsADragAndSnapsToTheNearestPage() {
+    void pagerFollowsADragAndSnapsToTheNearestPage()
+    {
         QFETCH(double, start);
         QFETCH(int, drag);
         QFETCH(double, settled);
@@ -89,7 +93,8 @@ private slots:
         QCOMPARE(ended.first().first().toInt(), static_cast<int>(settled) / 320);
     }
 
-    void pageIndicatorKeepsItsPageInRange() {
+    void pageIndicatorKeepsItsPageInRange()
+    {
         PageIndicator indicator;
         indicator.setNumberOfPages(3);
         indicator.setCurrentPage(2);
@@ -101,7 +106,8 @@ private slots:
     }
 
     // Keys and clicks the user makes are reported; pages set by code are not.
-    void pageIndicatorReportsOnlyTheUsersChanges() {
+    void pageIndicatorReportsOnlyTheUsersChanges()
+    {
         PageIndicator indicator;
         indicator.resize(320, 36);
         indicator.setNumberOfPages(4);
@@ -122,7 +128,8 @@ private slots:
         QCOMPARE(indicator.pageAt(indicator.dotRect(2).right() + 3), 2);  // the gap belongs to the dot
     }
 
-    void toggleSwitchReadsAsACheckBoxNamedByItsRow() {
+    void toggleSwitchReadsAsACheckBoxNamedByItsRow()
+    {
         QWidget row;
         auto* label = new QLabel(QStringLiteral("اذان صبح"), &row);
         auto* toggle = new ToggleSwitch(&row);
@@ -142,7 +149,8 @@ private slots:
         QCOMPARE(face->text(QAccessible::Name), QStringLiteral("سحر"));
     }
 
-    void tabBarRefusesDisabledTabsToTheUserButNotToCode() {
+    void tabBarRefusesDisabledTabsToTheUserButNotToCode()
+    {
         TabBarController tabs;
         for (const char* title : {"cities", "settings", "sounds"})
             tabs.addTab(new QLabel(QString::fromLatin1(title)), QString::fromLatin1(title));
@@ -166,7 +174,8 @@ private slots:
         QVERIFY(!tabs.tabButton(0)->isVisible());
     }
 
-    void navigationPushPopTitlesAndButtons() {
+    void navigationPushPopTitlesAndButtons()
+    {
         NavigationStack stack;
         stack.resize(320, 460);
         stack.show();
@@ -199,7 +208,8 @@ private slots:
         QCOMPARE(stack.count(), 1);
     }
 
-    void navigationBarHidesAndGivesItsRoomToTheScreen() {
+    void navigationBarHidesAndGivesItsRoomToTheScreen()
+    {
         NavigationStack stack;
         stack.resize(320, 460);
         stack.show();
@@ -213,7 +223,8 @@ private slots:
         QCOMPARE(screen->height(), 416);
     }
 
-    void presentationStackCountsAndDismissesItsScreens() {
+    void presentationStackCountsAndDismissesItsScreens()
+    {
         PresentationStack window;
         window.resize(320, 460);
         window.show();
@@ -241,7 +252,8 @@ private slots:
         QCOMPARE(changed.size(), 5);
     }
 
-    void toggleSwitchFlipsOnClick() {
+    void toggleSwitchFlipsOnClick()
+    {
         ToggleSwitch toggle;
         toggle.show();
         QVERIFY(toggle.isCheckable());

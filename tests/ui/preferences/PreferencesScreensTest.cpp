@@ -62,8 +62,7 @@ struct Preferences : RecordedServices, OptionsFixture {
     }
     ~Preferences() override { Platform::install(Platform{}); }
 
-    template <typename Screen>
-    Screen* showTab(int index)
+    template <typename Screen> Screen* showTab(int index)
     {
         QTest::mouseClick(tabs()->tabButton(index), Qt::LeftButton);
         if (tabs()->currentIndex() != index)

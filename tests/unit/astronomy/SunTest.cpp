@@ -34,6 +34,7 @@ TEST_P(SunAgainstTheAlmanac, DeclinationAndEquationOfTime)
     EXPECT_NEAR(sun.equationOfTime, c.equationOfTime, 0.3);
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Extremes, SunAgainstTheAlmanac, ::testing::Values(
     AlmanacCase{2013, 2, 11, NAN, -14.2},      // the equation of time at its winter minimum
     AlmanacCase{2013, 11, 3, NAN, 16.4},       // and at its autumn maximum
@@ -45,6 +46,7 @@ TEST(HoursFromTransit, EquatorEquinoxAndPolarDay)
 {
     // At the equator with the sun on the equator, the geometric horizon is six hours away.
     EXPECT_NEAR(hoursFromTransit(0.0, 0.0, 0.0), 6.0, 1e-9);
+    // clang-format on
     // In the arctic summer the sun never sets, and never drops to 17.7 degrees below.
     EXPECT_LT(hoursFromTransit(80.0, 23.0, -0.833), 0.0);
     EXPECT_LT(hoursFromTransit(55.0, 23.0, -17.7), 0.0);

@@ -33,6 +33,7 @@ TEST_P(FromClock, GivesThePersianDateOfTheDay)
     }
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(KnownDays, FromClock, ::testing::Values(
     ClockCase{2012, 3, 19, 1390, 12, 29, 365},
     ClockCase{2012, 3, 20, 1391, 1, 1, 1},
@@ -60,6 +61,7 @@ INSTANTIATE_TEST_SUITE_P(KnownDays, FromClock, ::testing::Values(
     ClockCase{2029, 7, 1, 1408, 4, 11, 104},
     ClockCase{2030, 3, 20, 1408, 12, 30, 366},
     ClockCase{2030, 3, 21, 1409, 1, 1, 1}));
+// clang-format on
 
 TEST(FromClockOverYears, ConsecutiveDaysGiveConsecutiveDaysOfTheYear)
 {
@@ -75,8 +77,7 @@ TEST(FromClockOverYears, ConsecutiveDaysGiveConsecutiveDaysOfTheYear)
             EXPECT_EQ(date.year(), previous.year());
         }
         // The arithmetic of the clock conversion agrees with the platform's Persian calendar.
-        EXPECT_EQ(calendar.dayOfYear(date.year(), date.month(), date.day()), date.dayOfYear())
-            << date.getPersianDate();
+        EXPECT_EQ(calendar.dayOfYear(date.year(), date.month(), date.day()), date.dayOfYear()) << date.getPersianDate();
         previous = date;
     }
 }
@@ -99,6 +100,7 @@ TEST_P(FromKey, ReadsTheKeyBackAndWritesItAgain)
     EXPECT_EQ(date.getPersianDate(), c.key);
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(SixAndSevenCharacters, FromKey, ::testing::Values(
     KeyCase{"920101", 92, 1, 1, 1},
     KeyCase{"920730", 92, 7, 30, 216},
@@ -108,6 +110,7 @@ INSTANTIATE_TEST_SUITE_P(SixAndSevenCharacters, FromKey, ::testing::Values(
     KeyCase{"1000101", 100, 1, 1, 1},
     KeyCase{"1050901", 105, 9, 1, 247},
     KeyCase{"1031230", 103, 12, 30, 366}));
+// clang-format on
 
 TEST(DateKey, FullAndTwoDigitYearsWriteTheSameKey)
 {
@@ -132,6 +135,7 @@ TEST_P(FormatHour, AddsTheSummerHourOnlyWhereItWasKept)
         << c.key << " " << c.time;
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Days, FormatHour, ::testing::Values(
     HourCase{"920630", "23:30", "00:30"},   // day 185: still summer, wraps past midnight
     HourCase{"920631", "23:30", "23:30"},   // day 186: standard time
@@ -143,6 +147,7 @@ INSTANTIATE_TEST_SUITE_P(Days, FormatHour, ::testing::Values(
     // Damaged data: the hour wraps without overflowing.
     HourCase{"920101", "2147483647:00", "08:00"},
     HourCase{"920801", "2147483647:00", "2147483647:00"}));
+// clang-format on
 
 TEST(FormatHour, FollowsTheDayOfYearThatTheCallerSets)
 {
@@ -159,6 +164,7 @@ TEST(AddMinutes, WrapsAroundMidnightBothWays)
         const char* time;
         const char* minutes;
         const char* result;
+        // clang-format off
     } cases[] = {
         {"23:50", "15", "0:5"}, {"0:10", "-20", "23:50"}, {"12:00", "0", "12:0"},
         {"6:0", "5", "6:5"},    {"4:35", "-3", "4:32"},   {"0:0", "-1440", "0:0"},
@@ -167,6 +173,7 @@ TEST(AddMinutes, WrapsAroundMidnightBothWays)
         {"2147483647:00", "0", "7:0"}, {"2147483647:59", "2147483647", "10:6"},
         {"-2147483648:0", "-2147483648", "13:52"},
     };
+    // clang-format on
     for (const auto& c : cases)
         EXPECT_EQ(DateTimePersian::add(c.time, c.minutes), c.result) << c.time << " " << c.minutes;
 }

@@ -10,6 +10,7 @@ TEST(ConvertToPersian, ReplacesOnlyAsciiDigits)
     const struct {
         const char* in;
         const char* out;
+        // clang-format off
     } cases[] = {
         {"05:42", "\u0660\u0665:\u0664\u0662"},
         {"05 فروردین", "\u0660\u0665 فروردین"},
@@ -20,6 +21,7 @@ TEST(ConvertToPersian, ReplacesOnlyAsciiDigits)
         {"😀7", "😀\u0667"},
         {"", ""},
     };
+    // clang-format on
     for (const auto& c : cases)
         EXPECT_EQ(Utility::ConvertToPersian(c.in), c.out) << c.in;
 }
@@ -29,6 +31,7 @@ TEST(GetProperString, UsesPersianFormsOfYehAndKaf)
     const struct {
         const char* in;
         const char* out;
+        // clang-format off
     } cases[] = {
         {"علي", "علی"},
         {"مصطفى", "مصطفی"},
@@ -38,6 +41,7 @@ TEST(GetProperString, UsesPersianFormsOfYehAndKaf)
         {"Kerman كرج 12", "Kerman کرج 12"},
         {"", ""},
     };
+    // clang-format on
     for (const auto& c : cases)
         EXPECT_EQ(Utility::GetProperString(c.in), c.out) << c.in;
 }

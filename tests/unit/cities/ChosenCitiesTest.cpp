@@ -90,7 +90,8 @@ TEST_F(ChosenCitiesTest, MovesRenumberEveryCityInListOrder)
         // The held list follows the move without a re-read.
         ASSERT_EQ(cities.count(), 4);
         for (int row = 0; row < 4; ++row)
-            EXPECT_EQ(std::to_string(cities.stateIdAt(row)) + ":" + std::to_string(row), c.expected[static_cast<std::size_t>(row)]);
+            EXPECT_EQ(std::to_string(cities.stateIdAt(row)) + ":" + std::to_string(row),
+                      c.expected[static_cast<std::size_t>(row)]);
     }
 }
 

@@ -20,8 +20,8 @@ protected:
 
     void choose(int stateId, int ordering)
     {
-        ASSERT_TRUE(db.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(" + std::to_string(stateId) + ", " +
-                                       std::to_string(ordering) + ")"));
+        ASSERT_TRUE(db.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(" + std::to_string(stateId) + ", "
+                                       + std::to_string(ordering) + ")"));
     }
 
     int countOf(const std::string& sql) { return std::stoi(db.ExecuteScaler(sql).value_or("-1")); }

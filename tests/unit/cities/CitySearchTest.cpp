@@ -41,8 +41,9 @@ TEST_F(CitySearchTest, AnEmptyTextListsEveryCandidateOfTheMode)
     choose(32, 0);
     cities.textDidChange("");
     provinces.textDidChange("");
-    EXPECT_EQ(names(cities), (std::vector<std::string>{"اصفهان (اصفهان)", "شهریار (تهران)", "کاشان (اصفهان)",
-                                                       "کرمان (کرمان)", "یزد (یزد)"}))
+    EXPECT_EQ(
+        names(cities),
+        (std::vector<std::string>{"اصفهان (اصفهان)", "شهریار (تهران)", "کاشان (اصفهان)", "کرمان (کرمان)", "یزد (یزد)"}))
         << "no chosen city and no province";
     EXPECT_EQ(names(provinces), (std::vector<std::string>{"اصفهان", "تهران", "کرمان", "یزد"}))
         << "provinces whether or not one of their cities is chosen";
@@ -55,11 +56,11 @@ TEST_F(CitySearchTest, TypedTextMatchesCityAndProvinceNamesWithPersianLetterForm
         std::vector<std::string> expected;
     };
     const std::vector<Case> cases = {
-        {"تهر", {"شهریار (تهران)", "تهران (تهران)"}},               // the province's name lists its cities
-        {"\u0643\u0631\u0645", {"کرمان (کرمان)"}},                  // Arabic kaf
-        {"\u064A\u0632\u062F", {"یزد (یزد)"}},                      // Arabic yeh
-        {"\u0634\u0647\u0631\u064A", {"شهریار (تهران)"}},           // Arabic yeh inside a word
-        {"'", {}},                                                  // a quote is a letter like any other
+        {"تهر", {"شهریار (تهران)", "تهران (تهران)"}},  // the province's name lists its cities
+        {"\u0643\u0631\u0645", {"کرمان (کرمان)"}},  // Arabic kaf
+        {"\u064A\u0632\u062F", {"یزد (یزد)"}},  // Arabic yeh
+        {"\u0634\u0647\u0631\u064A", {"شهریار (تهران)"}},  // Arabic yeh inside a word
+        {"'", {}},  // a quote is a letter like any other
         {"x' OR '1'='1", {}},
         {"%", {"اصفهان (اصفهان)", "تهران (تهران)", "شهریار (تهران)", "کاشان (اصفهان)", "کرمان (کرمان)", "یزد (یزد)"}},
     };

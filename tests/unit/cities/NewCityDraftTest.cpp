@@ -28,10 +28,7 @@ constexpr int newId = 64;
 
 class NewCityDraftTest : public test::CitiesFixture {
 protected:
-    NewCityDraftTest()
-    {
-        exec("INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES (8, 'فارس', NULL, 0)");
-    }
+    NewCityDraftTest() { exec("INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES (8, 'فارس', NULL, 0)"); }
 
     void exec(const std::string& sql) { ASSERT_TRUE(db.ExecuteNonQuery(sql)) << sql; }
 
@@ -57,6 +54,7 @@ TEST_F(NewCityDraftTest, SaveFollowsTheCommittedNameAndTheProvince)
         const char* what;
         std::function<void(NewCityDraft&)> steps;
         bool enabled;
+        // clang-format off
     } cases[] = {
         {"opening", [](NewCityDraft&) {}, false},
         {"a province alone", [](NewCityDraft& d) { d.setProvince(fars, "فارس"); }, false},
@@ -88,6 +86,7 @@ TEST_F(NewCityDraftTest, SaveFollowsTheCommittedNameAndTheProvince)
              d.setProvince(tehranProvince, "تهران");
          }, true},
     };
+    // clang-format on
     for (const auto& c : cases) {
         NewCityDraft fresh(db);
         c.steps(fresh);
@@ -100,11 +99,13 @@ TEST_F(NewCityDraftTest, SliderPositionsAreFlooredToWholeMinutes)
     const struct {
         double position;
         int minutes;
+        // clang-format off
     } cases[] = {
         {0.0, 0},   {-0.2, -1},  {-0.001, -1}, {0.999, 0},   {9.7, 9},      {9.999, 9},
         {10.0, 10}, {-10.0, -10}, {-9.5, -10}, {-3.0, -3},   {-10.4, -10},  {12.0, 10},
         {std::numeric_limits<double>::quiet_NaN(), 0},
     };
+    // clang-format on
     for (const auto& c : cases)
         EXPECT_EQ(NewCityDraft::offsetAt(c.position), c.minutes) << c.position;
 
@@ -137,8 +138,9 @@ TEST_F(NewCityDraftTest, SaveWritesThePlaceItsOffsetsAndItsTurnInThatOrder)
     std::vector<std::string> writes;
     for (const Row& row : db.Execute("SELECT what FROM writes ORDER BY seq"))
         writes.push_back(row.at("what"));
-    EXPECT_EQ(writes, (std::vector<std::string>{"tStates 64 جهرم 8 0", "tTimes 64 14000101 0 1 0 0 -2 5",
-                                                "tSelectedStates 64 4"}));
+    EXPECT_EQ(
+        writes,
+        (std::vector<std::string>{"tStates 64 جهرم 8 0", "tTimes 64 14000101 0 1 0 0 -2 5", "tSelectedStates 64 4"}));
     EXPECT_EQ(db.ExecuteScaler("SELECT typeof(Date) || typeof(T1) || typeof(T5) FROM tTimes WHERE StateID = 64"),
               "integerintegerinteger")
         << "the readers compare and add these as numbers";
@@ -150,12 +152,14 @@ TEST_F(NewCityDraftTest, NamesAreStoredWithPersianLettersAndQuotesAsTypedAndFoun
         const char* typed;
         const char* stored;
         const char* searched;
+        // clang-format off
     } cases[] = {
         {"كوي علي", "کوی علی", "\u0643\u0648\u064A"},      // Arabic kaf and yeh, typed and searched
         {"Shah's Town", "Shah's Town", "h's t"},            // the quote is part of the name
         {"آق\u200Cقلا", "آق\u200Cقلا", "آققلا"},             // the non-joiner typed, not searched
         {"بندرگز", "بندرگز", "بندر\u200Cگز"},                // and the other way round
     };
+    // clang-format on
     for (const auto& c : cases) {
         NewCityDraft fresh(db);
         fresh.commitName(c.typed);
@@ -177,6 +181,7 @@ TEST_F(NewCityDraftTest, AFailedWriteTakesBackWhatWasWrittenAndAttachesNothingEl
     const struct {
         const char* what;
         const char* fault;
+        // clang-format off
     } cases[] = {
         {"the place refused", "CREATE TRIGGER fault BEFORE INSERT ON tStates BEGIN SELECT RAISE(ABORT, 'full'); END"},
         {"the offset row refused",
@@ -187,6 +192,7 @@ TEST_F(NewCityDraftTest, AFailedWriteTakesBackWhatWasWrittenAndAttachesNothingEl
          "CREATE TRIGGER fault BEFORE INSERT ON tSelectedStates BEGIN SELECT RAISE(ABORT, 'full'); END"},
         {"a choice left over under the new identifier", "INSERT INTO tSelectedStates VALUES(64, 7)"},
     };
+    // clang-format on
     choose(32, 0);
     for (const auto& c : cases) {
         exec(c.fault);

@@ -1,10 +1,10 @@
 #include "data/DatabaseCheck.h"
 #include "data/MyDB.h"
 #include "platform/FixedPaths.h"
+#include "tests/support/FileText.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/TempFolder.h"
-#include "tests/support/FileText.h"
 
 #include <gtest/gtest.h>
 
@@ -42,6 +42,7 @@ protected:
 
 TEST_F(DatabaseCheck, AShippedDatabaseThatCannotServeIsNamed)
 {
+    // clang-format off
     const std::pair<const char*, std::function<void(const fs::path&)>> damages[] = {
         {"missing", [](const fs::path& file) { fs::remove(file); }},
         {"a folder", [](const fs::path& file) { fs::remove(file); fs::create_directory(file); }},
@@ -50,6 +51,7 @@ TEST_F(DatabaseCheck, AShippedDatabaseThatCannotServeIsNamed)
         {"no tables", [](const fs::path& file) { fs::remove(file); test::execSql(file, "CREATE TABLE t(x)"); }},
         {"a table short", [](const fs::path& file) { test::execSql(file, "DROP VIEW vTimes"); }},
     };
+    // clang-format on
     EXPECT_EQ(shippedDatabaseProblem(shipped), std::nullopt);
     for (const auto& [what, damage] : damages) {
         test::TempFolder folder;
@@ -73,9 +75,10 @@ TEST_F(DatabaseCheck, AWorkingCopyWithoutTheTablesIsReportedAndKept)
         MyDB db("Icons", paths, log);
         const auto problem = workingCopyProblem(db.dbPath());
         ASSERT_TRUE(problem);
-        EXPECT_EQ(problem->logLine, "kavenda: the database " + working().string()
-                                        + " lacks tStates, tSelectedStates, tTimes, tEvents, tSetting, vTimes;"
-                                          " move the file aside and start again to begin with a fresh copy");
+        EXPECT_EQ(problem->logLine,
+                  "kavenda: the database " + working().string()
+                      + " lacks tStates, tSelectedStates, tTimes, tEvents, tSetting, vTimes;"
+                        " move the file aside and start again to begin with a fresh copy");
         EXPECT_NE(problem->message.find(working().string()), std::string::npos);
         EXPECT_NE(problem->message.find("به جای دیگری ببرید"), std::string::npos);
     }

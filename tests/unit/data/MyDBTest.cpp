@@ -30,9 +30,8 @@ protected:
 TEST_F(MyDBTest, ConvertsValuesByStorageClass)
 {
     MyDB db("Icons", paths, log);
-    const RowSet rows = db.run(
-        "SELECT 42 AS i, -7 AS n, 'تهران' AS t, NULL AS z, 2.5 AS r, x'414243' AS b, "
-        "4294967297 AS wrap, 2147483648 AS high, 1 AS d, 'later' AS d");
+    const RowSet rows = db.run("SELECT 42 AS i, -7 AS n, 'تهران' AS t, NULL AS z, 2.5 AS r, x'414243' AS b, "
+                               "4294967297 AS wrap, 2147483648 AS high, 1 AS d, 'later' AS d");
     ASSERT_EQ(rows.size(), 1u);
     const Row& row = rows[0];
     EXPECT_EQ(row.at("i"), "42");
@@ -41,9 +40,9 @@ TEST_F(MyDBTest, ConvertsValuesByStorageClass)
     EXPECT_EQ(row.at("z"), "");
     EXPECT_EQ(row.at("r"), "2.5");
     EXPECT_EQ(row.at("b"), "ABC");
-    EXPECT_EQ(row.at("wrap"), "1");            // low 32 bits
+    EXPECT_EQ(row.at("wrap"), "1");  // low 32 bits
     EXPECT_EQ(row.at("high"), "-2147483648");  // read as signed
-    EXPECT_EQ(row.at("d"), "later");           // the later column of a name wins
+    EXPECT_EQ(row.at("d"), "later");  // the later column of a name wins
     EXPECT_EQ(row.size(), 9u);
     EXPECT_EQ(db.columnList(), (std::vector<std::string>{"i", "n", "t", "z", "r", "b", "wrap", "high", "d", "d"}));
     EXPECT_TRUE(log.lines.empty());
@@ -58,7 +57,8 @@ TEST_F(MyDBTest, SingleValuesAndMissingOnes)
     EXPECT_EQ(db.ExecuteScaler("SELECT Description, Date FROM tEvents WHERE Date = 920229"), "");
     EXPECT_EQ(db.ExecuteScaler("SELECT Name, StateID FROM tStates ORDER BY StateID DESC"), "اصفهان");
 
-    const RowSet rows = db.Execute("SELECT Date, Description FROM tEvents WHERE Date IN (920101, 920229) ORDER BY Date");
+    const RowSet rows =
+        db.Execute("SELECT Date, Description FROM tEvents WHERE Date IN (920101, 920229) ORDER BY Date");
     ASSERT_EQ(rows.size(), 2u);
     EXPECT_EQ(MyDB::getValue(rows, 0, "Description"), "عید نوروز@آغاز سال نو");
     EXPECT_EQ(MyDB::getValue(rows, 1, "Description"), "");

@@ -20,6 +20,7 @@ TEST(NameMatching, MatchesAsLikeDoesWithoutMindingNonJoiners)
         std::string pattern;
         std::string text;
         bool matches;
+        // clang-format off
     } cases[] = {
         {"%%", "", true},
         {"%%", "تهران", true},
@@ -40,6 +41,7 @@ TEST(NameMatching, MatchesAsLikeDoesWithoutMindingNonJoiners)
         {"9201__", "9201011", false},
         {std::string("\xFF%"), "\xFF" "x", true},  // a stray byte matches itself
     };
+    // clang-format on
     for (const auto& c : cases)
         EXPECT_EQ(likeMatches(c.pattern, c.text), c.matches) << c.pattern << " / " << c.text;
 }
@@ -51,8 +53,8 @@ TEST(NameMatching, EveryLikeOfTheDatabaseMatchesThatWay)
     test::buildFixtureDatabase(paths.resourceFolder());
     test::RecordingLog log;
     MyDB db("Icons", paths, log);
-    ASSERT_TRUE(db.ExecuteNonQuery(std::string("INSERT INTO tStates(StateID, Name, ParentID) VALUES(9, 'خرم") +
-                                   joiner + "آباد', 1)"));
+    ASSERT_TRUE(db.ExecuteNonQuery(std::string("INSERT INTO tStates(StateID, Name, ParentID) VALUES(9, 'خرم") + joiner
+                                   + "آباد', 1)"));
     EXPECT_EQ(db.ExecuteScaler("SELECT StateID FROM tStates WHERE Name LIKE '%خرمآباد%'"), "9");
     EXPECT_EQ(db.ExecuteScaler("SELECT COUNT(*) FROM tEvents WHERE Date LIKE '9202__'"),
               db.ExecuteScaler("SELECT COUNT(*) FROM tEvents WHERE Date BETWEEN 920200 AND 920299"))

@@ -1,6 +1,6 @@
+#include "data/Statements.h"
 #include "data/Format.h"
 #include "data/MyDB.h"
-#include "data/Statements.h"
 #include "platform/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
@@ -43,11 +43,13 @@ TEST_F(StatementsTest, DayQueryReadsTheNextDayAcrossMonthAndYearEnds)
         const char* key;
         const char* t7;
         const char* description;
+        // clang-format off
     } cases[] = {
         {"920231", "4:40", ""},          // the next stored day is 1 Khordad
         {"921229", "4:39", "روز ملی شدن صنعت نفت"},   // and 1 Farvardin of 1393
         {"1000101", "4:35", "عید نوروز"},             // seven-character keys
     };
+    // clang-format on
     for (const auto& c : cases) {
         const RowSet rows = db().Execute(formatSql(sql::dayTimes, {c.key, 32}));
         ASSERT_EQ(rows.size(), 1u) << c.key;
@@ -64,8 +66,8 @@ TEST_F(StatementsTest, OffsetRowsSortAfterEveryDateKeyAndStayOutOfTheView)
 {
     ASSERT_TRUE(db().ExecuteNonQuery(formatSql(sql::insertCity, {"شهریار", 1})));
     EXPECT_EQ(db().ExecuteScaler(sql::highestPlaceId), "34");
-    ASSERT_TRUE(db().ExecuteNonQuery(
-        formatSql(sql::insertOffsetRow, {34, "14000101", "-3", "-2", "-1", "0", "1", "2"})));
+    ASSERT_TRUE(
+        db().ExecuteNonQuery(formatSql(sql::insertOffsetRow, {34, "14000101", "-3", "-2", "-1", "0", "1", "2"})));
 
     const RowSet times = db().Execute(formatSql(sql::reminderTimes, {"1020101", 34, 32}));
     ASSERT_EQ(times.size(), 3u);

@@ -31,6 +31,7 @@ struct NewMoonCase {
 
 TEST(NewMoon, MatchesThePublishedMoments)
 {
+    // clang-format off
     const NewMoonCase cases[] = {
         {0, moment(2000, 1, 6, 18, 14)},
         {159, moment(2012, 11, 13, 22, 8)},   // total solar eclipse
@@ -39,6 +40,7 @@ TEST(NewMoon, MatchesThePublishedMoments)
         {300, moment(2024, 4, 8, 18, 21)},    // total solar eclipse, America
         {-12, moment(1999, 1, 17, 15, 46)},
     };
+    // clang-format on
     for (const NewMoonCase& c : cases)
         EXPECT_NEAR(newMoon(c.lunation), c.published, 2 * minute) << "lunation " << c.lunation;
 }

@@ -1,5 +1,5 @@
-#include "tools/icons/DayCalendar.h"
 #include "tools/icons/HijriCalendar.h"
+#include "tools/icons/DayCalendar.h"
 #include "tools/icons/MonthStartPrediction.h"
 #include "tools/icons/SourceTables.h"
 
@@ -15,7 +15,8 @@
 namespace kavenda::icons {
 namespace {
 
-const std::filesystem::path monthStarts = std::filesystem::path(KAVENDA_SOURCE_DIR) / "resources/data/hijri-month-starts.tsv";
+const std::filesystem::path monthStarts =
+    std::filesystem::path(KAVENDA_SOURCE_DIR) / "resources/data/hijri-month-starts.tsv";
 
 constexpr long muharram1440 = 2458366;  // 11 September 2018
 
@@ -27,12 +28,14 @@ TEST(HijriCalendar, NamesTheDayMonthAndLengthOfEveryDay)
         long day;
         HijriDate expected;
     };
+    // clang-format off
     const Case cases[] = {
         {muharram1440 - 29, {1439, 12, 1, 29}},
         {muharram1440 - 1, {1439, 12, 29, 29}},
         {muharram1440, {1440, 1, 1, 30}},
         {muharram1440 + 29, {1440, 1, 30, 30}},
     };
+    // clang-format on
     for (const Case& c : cases) {
         const HijriDate d = calendar.on(c.day);
         EXPECT_EQ(d.year, c.expected.year) << c.day;
@@ -48,9 +51,9 @@ TEST(HijriCalendar, RefusesATableWithGapsOrImpossibleMonths)
 {
     const std::vector<std::vector<HijriMonthStart>> broken = {
         {},
-        {{1440, 1, muharram1440}, {1440, 3, muharram1440 + 59}},   // Safar missing
-        {{1440, 1, muharram1440}, {1440, 2, muharram1440 + 28}},   // 28 days
-        {{1440, 1, muharram1440}, {1440, 2, muharram1440 + 31}},   // 31 days
+        {{1440, 1, muharram1440}, {1440, 3, muharram1440 + 59}},  // Safar missing
+        {{1440, 1, muharram1440}, {1440, 2, muharram1440 + 28}},  // 28 days
+        {{1440, 1, muharram1440}, {1440, 2, muharram1440 + 31}},  // 31 days
         {{1439, 12, muharram1440}, {1439, 1, muharram1440 + 30}},  // the year does not turn
     };
     for (const auto& table : broken)

@@ -1,7 +1,7 @@
+#include "calendar/Utility.h"
 #include "data/Format.h"
 #include "data/IntValue.h"
 #include "data/Statements.h"
-#include "calendar/Utility.h"
 #include "tests/unit/icons/ShippedIcons.h"
 
 namespace kavenda {
@@ -79,8 +79,8 @@ TEST_F(IconsStatements, AUserCityTakesTheNextIdentifierAndStaysOutOfTheDays)
     ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertCity, {"ورامین", tehranProvince})));
     const int city = intValue(db.ExecuteScaler(sql::highestPlaceId).value_or("0"));
     EXPECT_EQ(city, 63);
-    ASSERT_TRUE(db.ExecuteNonQuery(
-        formatSql(sql::insertOffsetRow, {city, "14000101", "-2", "-2", "-1", "0", "0", "-1"})));
+    ASSERT_TRUE(
+        db.ExecuteNonQuery(formatSql(sql::insertOffsetRow, {city, "14000101", "-2", "-2", "-1", "0", "0", "-1"})));
 
     EXPECT_EQ(db.ExecuteScaler(formatSql(sql::provinceCentreOfCity, {city})), "39");
     const RowSet offsets = db.Execute(formatSql(sql::cityOffsets, {city}));

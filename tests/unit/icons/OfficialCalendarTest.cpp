@@ -24,7 +24,10 @@ struct EventDay {
     int year, month, day;
     std::string description;
     bool holiday;
-    bool has(const std::string& name) const { return ("@" + description + "@").find("@" + name + "@") != std::string::npos; }
+    bool has(const std::string& name) const
+    {
+        return ("@" + description + "@").find("@" + name + "@") != std::string::npos;
+    }
 };
 
 // The events of the shipped database by Julian day number: one row per day from 1 Farvardin
@@ -110,11 +113,13 @@ TEST_F(OfficialCalendar, MonthsMovedBySightingFollowTheObservedDay)
         const char* name;
     };
     const long ramadan1440 = julianDayNumber(2019, 5, 7), shawwal1443 = julianDayNumber(2022, 5, 3);
+    // clang-format off
     const Case cases[] = {
         {ramadan1440 + 20, "شهادت حضرت امام علی (ع)"},
         {shawwal1443, "عید سعید فطر"},
         {shawwal1443 + 1, "تعطیل به مناسبت عید سعید فطر"},
     };
+    // clang-format on
     for (const Case& c : cases) {
         EXPECT_TRUE(at(c.day).has(c.name)) << c.name;
         EXPECT_TRUE(at(c.day).holiday) << c.name;
@@ -182,11 +187,11 @@ TEST_F(OfficialCalendar, NoHolidayBeyondTheRules)
         const std::set<long> expected = holidaysByTheRules(year <= 1405 ? table : hijri.months(), year);
         const std::set<long> marked = holidaysInTheDatabase(year);
         for (long day : marked)
-            EXPECT_TRUE(expected.count(day)) << "extra holiday " << at(day).month << "/" << at(day).day << " "
-                                             << at(day).description;
+            EXPECT_TRUE(expected.count(day))
+                << "extra holiday " << at(day).month << "/" << at(day).day << " " << at(day).description;
         for (long day : expected)
-            EXPECT_TRUE(marked.count(day)) << "missing holiday " << at(day).month << "/" << at(day).day << " "
-                                           << at(day).description;
+            EXPECT_TRUE(marked.count(day))
+                << "missing holiday " << at(day).month << "/" << at(day).day << " " << at(day).description;
         EXPECT_GE(marked.size(), 24u) << year;
     }
 }

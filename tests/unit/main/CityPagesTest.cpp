@@ -81,9 +81,9 @@ TEST_F(CityPagesTest, ACityOfAChosenCentreShowsTheCentreShiftedByItsOffsetsUnder
     ASSERT_EQ(rows.size(), 2u);
     const Row& varamin = rows[0];
     EXPECT_EQ(varamin.at("Name"), "ورامین");
-    const std::vector<std::pair<std::string, std::string>> expected{
-        {"T1", "3:46"}, {"T2", "5:21"}, {"T3", "12:2"}, {"T4", "19:20"},
-        {"T5", "19:40"}, {"T6", "23:11"}, {"T7", "3:47"}, {"T8", "5:22"}};
+    const std::vector<std::pair<std::string, std::string>> expected{{"T1", "3:46"},  {"T2", "5:21"},  {"T3", "12:2"},
+                                                                    {"T4", "19:20"}, {"T5", "19:40"}, {"T6", "23:11"},
+                                                                    {"T7", "3:47"},  {"T8", "5:22"}};
     for (const auto& [key, time] : expected)
         EXPECT_EQ(varamin.at(key), time) << key;
     EXPECT_EQ(rows[1].at("T1"), "3:51");  // the centre's own page is untouched
@@ -97,7 +97,7 @@ TEST_F(CityPagesTest, NextDayTimesTakeTheOffsetsOfDawnAndSunrise)
     EXPECT_EQ(rows[0].at("Name"), "کاشان");
     EXPECT_EQ(rows[0].at("T1"), "4:8");
     EXPECT_EQ(rows[0].at("T6"), "23:29");
-    EXPECT_EQ(rows[0].at("T7"), "4:9");   // 4:05 + the dawn offset
+    EXPECT_EQ(rows[0].at("T7"), "4:9");  // 4:05 + the dawn offset
     EXPECT_EQ(rows[0].at("T8"), "5:45");  // 5:42 + the sunrise offset
     EXPECT_EQ(rows[0].at("Description"), "روز صنعت و معدن@روز بزرگداشت صائب تبریزی@روز 7 تیر");
 }
@@ -141,9 +141,14 @@ TEST(CityPagesArithmetic, TheLastPageIsWhereTheScreenOpens)
 
 TEST(CityPagesArithmetic, OnlyAWholeOffsetOnAPageBoundarySettlesAPage)
 {
-    const std::vector<std::pair<double, std::optional<int>>> cases{
-        {0, 0}, {320, 1}, {640, 2}, {639.5, std::nullopt}, {650, std::nullopt},
-        {320.25, std::nullopt}, {1, std::nullopt}, {-0.5, std::nullopt}};
+    const std::vector<std::pair<double, std::optional<int>>> cases{{0, 0},
+                                                                   {320, 1},
+                                                                   {640, 2},
+                                                                   {639.5, std::nullopt},
+                                                                   {650, std::nullopt},
+                                                                   {320.25, std::nullopt},
+                                                                   {1, std::nullopt},
+                                                                   {-0.5, std::nullopt}};
     for (const auto& [offset, page] : cases)
         EXPECT_EQ(CityPages::settledPage(offset), page) << offset;
 }

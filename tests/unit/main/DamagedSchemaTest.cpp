@@ -25,10 +25,11 @@ class DamagedSchema : public ::testing::TestWithParam<const char*> {
 protected:
     DamagedSchema() : paths(temp.path() / "documents", temp.path() / "resources")
     {
-        const auto shipped
-            = test::buildFixtureDatabase(paths.resourceFolder(), {"fixture-data.sql", "offset-city.sql"});
-        test::execSql(shipped, "INSERT INTO tSelectedStates VALUES(32, 0); INSERT INTO tSelectedStates VALUES(63, 1);"
-                               "UPDATE tSetting SET Item0 = 1, Item3 = 1, Item7 = '8:30';");
+        const auto shipped =
+            test::buildFixtureDatabase(paths.resourceFolder(), {"fixture-data.sql", "offset-city.sql"});
+        test::execSql(shipped,
+                      "INSERT INTO tSelectedStates VALUES(32, 0); INSERT INTO tSelectedStates VALUES(63, 1);"
+                      "UPDATE tSetting SET Item0 = 1, Item3 = 1, Item7 = '8:30';");
         test::execSql(shipped, GetParam());
     }
 
@@ -59,6 +60,7 @@ TEST_P(DamagedSchema, NoScreenAndNoRebuildThrows)
     EXPECT_NO_THROW(search.updateDataSource("ت"));
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(RenamedColumns, DamagedSchema, ::testing::Values(
     "ALTER TABLE tStates RENAME COLUMN Name TO Title",
     "ALTER TABLE tStates RENAME COLUMN IsCenter TO Centre",
@@ -68,6 +70,7 @@ INSTANTIATE_TEST_SUITE_P(RenamedColumns, DamagedSchema, ::testing::Values(
     "ALTER TABLE tTimes RENAME COLUMN T1 TO Dawn",
     "ALTER TABLE tEvents RENAME COLUMN Description TO Text",
     "ALTER TABLE tSetting RENAME COLUMN Item7 TO AnnounceAt"));
+// clang-format on
 
 // The case a person met: tStates.Name renamed used to abort the program as the main screen
 // was built. Every chosen city keeps its page.
@@ -76,8 +79,9 @@ TEST(DamagedSchemaPages, ARenamedCityNameKeepsEveryPage)
     test::TempFolder temp;
     const FixedPaths paths(temp.path() / "documents", temp.path() / "resources");
     const auto shipped = test::buildFixtureDatabase(paths.resourceFolder(), {"fixture-data.sql", "offset-city.sql"});
-    test::execSql(shipped, "INSERT INTO tSelectedStates VALUES(32, 0); INSERT INTO tSelectedStates VALUES(63, 1);"
-                           "ALTER TABLE tStates RENAME COLUMN Name TO Title;");
+    test::execSql(shipped,
+                  "INSERT INTO tSelectedStates VALUES(32, 0); INSERT INTO tSelectedStates VALUES(63, 1);"
+                  "ALTER TABLE tStates RENAME COLUMN Name TO Title;");
     test::RecordingLog log;
     MyDB db("Icons", paths, log);
     const IcuPersianCalendar calendar;

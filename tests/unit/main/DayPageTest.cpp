@@ -13,9 +13,10 @@ constexpr int tallScreen = 568;
 
 Row tehranRow(std::string description = "")
 {
-    return Row{{"Name", "تهران"}, {"T1", "4:53"}, {"T2", "6:20"}, {"T3", "12:05"}, {"T4", "17:49"},
-               {"T5", "18:08"}, {"T6", "23:21"}, {"T7", "4:54"}, {"T8", "6:21"},
-               {"Description", std::move(description)}, {"StateID", "32"}};
+    return Row{
+        {"Name", "تهران"}, {"T1", "4:53"},  {"T2", "6:20"}, {"T3", "12:05"}, {"T4", "17:49"},
+        {"T5", "18:08"},   {"T6", "23:21"}, {"T7", "4:54"}, {"T8", "6:21"},  {"Description", std::move(description)},
+        {"StateID", "32"}};
 }
 
 class DayPageTest : public ::testing::Test {
@@ -63,9 +64,9 @@ TEST_F(DayPageTest, EachTimeReadsAsItsCaptionAndValue)
 {
     DateTimePersian date = on("920410");
     const DayPage page(tehranRow(), 0, date, ordinaryScreen);
-    const std::vector<std::string> expected{
-        "اذان صبح ٠٥:٥٣", "طلوع آفتاب ٠٧:٢٠", "اذان ظهر ١٣:٠٥",        "غروب آفتاب ١٨:٤٩",
-        "اذان مغرب ١٩:٠٨", "نیمه شب شرعی ٠٠:٢١", "اذان صبح فردا ٠٥:٥٤", "طلوع آفتاب فردا ٠٧:٢١"};
+    const std::vector<std::string> expected{"اذان صبح ٠٥:٥٣",      "طلوع آفتاب ٠٧:٢٠",     "اذان ظهر ١٣:٠٥",
+                                            "غروب آفتاب ١٨:٤٩",    "اذان مغرب ١٩:٠٨",      "نیمه شب شرعی ٠٠:٢١",
+                                            "اذان صبح فردا ٠٥:٥٤", "طلوع آفتاب فردا ٠٧:٢١"};
     for (int k = 1; k <= DayPage::timeCount; ++k)
         EXPECT_EQ(page.timeReading(k), expected[static_cast<std::size_t>(k - 1)]) << k;
 

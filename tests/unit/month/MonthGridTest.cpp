@@ -22,7 +22,8 @@ protected:
     // Opened on a date key, with the clock on the civil date of "now".
     MonthGrid open(std::string_view key, Instant now = test::tehran(2013, 7, 1, 12))
     {
-        MonthGrid grid(db, calendar, DateTimePersian::initWithPersianDate(key, calendar), DateTimePersian::init(now, calendar));
+        MonthGrid grid(db, calendar, DateTimePersian::initWithPersianDate(key, calendar),
+                       DateTimePersian::init(now, calendar));
         grid.viewDidLoad();
         return grid;
     }
@@ -57,12 +58,14 @@ TEST_F(MonthGridTest, PlacesTheDaysOf1392AsItsPagesShowThem)
         int row;
         int column;
     };
+    // clang-format off
     const Case cases[] = {
         {"920101", 1, 0, 5},  {"920101", 2, 0, 6},  {"920101", 31, 0, 0}, {"920101", 24, 4, 0},
         {"920101", 30, 4, 6}, {"920401", 1, 0, 0},  {"920401", 29, 4, 0}, {"920401", 31, 4, 2},
         {"920601", 1, 0, 6},  {"920601", 30, 0, 0}, {"920601", 31, 0, 1}, {"920601", 29, 4, 6},
         {"920901", 1, 0, 6},  {"920901", 30, 0, 0}, {"921201", 1, 0, 5},  {"921201", 29, 4, 5},
     };
+    // clang-format on
     for (const Case& c : cases) {
         const MonthGrid grid = open(c.key);
         const DayCell& found = cell(grid, c.day);
@@ -95,9 +98,12 @@ TEST_F(MonthGridTest, EveryMonthOf1392StartsOnItsWeekdayAndShowsEachDayOnce)
 
 TEST_F(MonthGridTest, ReadsItsMonthWithTheYearsPrefix)
 {
-    EXPECT_EQ(MonthGrid::monthStatement(1392, 0), "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '9201__'");
-    EXPECT_EQ(MonthGrid::monthStatement(1392, 11), "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '9212__'");
-    EXPECT_EQ(MonthGrid::monthStatement(1405, 6), "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '10507__'");
+    EXPECT_EQ(MonthGrid::monthStatement(1392, 0),
+              "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '9201__'");
+    EXPECT_EQ(MonthGrid::monthStatement(1392, 11),
+              "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '9212__'");
+    EXPECT_EQ(MonthGrid::monthStatement(1405, 6),
+              "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '10507__'");
     const MonthGrid grid = open("920701");
     ASSERT_EQ(grid.datasource().size(), 30u);
     EXPECT_EQ(grid.monthName(), "مهر");
@@ -120,7 +126,8 @@ TEST_F(MonthGridTest, ColoursFridaysAndHolidaysAndMarksOccasions)
     EXPECT_EQ(cell(grid, 5).normalTitle, MonthGrid::black);
     EXPECT_EQ(cell(grid, 5).selectedTitle, MonthGrid::white);
     // 20 Farvardin has an occasion, but today's look wins.
-    EXPECT_EQ(cell(grid, 20).description, "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
+    EXPECT_EQ(cell(grid, 20).description,
+              "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
     EXPECT_EQ(cell(grid, 20).normalBackground, "today.png");
     EXPECT_EQ(cell(grid, 20).selectedBackground, "selected.png");
     EXPECT_EQ(cell(grid, 20).normalTitle, MonthGrid::black);
@@ -135,12 +142,14 @@ TEST_F(MonthGridTest, MarksTheOpenedDayAndTodayAsTheyAreBuilt)
         std::optional<int> todayBtn;
     };
     // Today is 10 Tir 1392. The button built last of the two becomes the one to deselect.
+    // clang-format off
     const Case cases[] = {
         {"920410", {10}, 10, 10},
         {"920415", {15}, 15, 10},
         {"920403", {3}, 10, 10},
         {"920503", {3}, 3, std::nullopt},
     };
+    // clang-format on
     for (const Case& c : cases) {
         const MonthGrid grid = open(c.opened);
         EXPECT_EQ(selectedDays(shown(grid)), c.selected) << c.opened;
@@ -267,6 +276,7 @@ TEST_F(MonthGridTest, DetailsHandOnTheSelectedDayOrToday)
         int step;
         std::optional<std::string> handedOn;
     };
+    // clang-format off
     const Case cases[] = {
         {"920705", test::tehran(2013, 7, 1, 12), 0, "920705"},
         {"921229", test::tehran(2013, 7, 1, 12), 0, std::nullopt},
@@ -279,6 +289,7 @@ TEST_F(MonthGridTest, DetailsHandOnTheSelectedDayOrToday)
         {"1081230", test::tehran(2029, 7, 1, 12), 0, "1081230"},
         {"1051229", test::tehran(2026, 7, 1, 12), 0, "1051229"},
     };
+    // clang-format on
     for (const Case& c : cases) {
         MonthGrid grid = open(c.opened, c.now);
         if (c.step != 0) {
@@ -304,13 +315,16 @@ TEST_F(MonthGridTest, LaterYearsFollowThePlatformsCalendar)
         int farvardinColumn;
         int esfandLength;
     };
+    // clang-format off
     const Case cases[] = {
         {1405, {2026, 3, 21}, 0, 29},
         {1408, {2029, 3, 20}, 3, 30},
     };
+    // clang-format on
     for (const Case& c : cases) {
         const CivilTime first = calendar.gregorianFields(calendar.instantOf(c.year, 1, 1, 12, 0));
-        EXPECT_EQ(std::tie(first.year, first.month, first.day), std::tie(c.newYear.year, c.newYear.month, c.newYear.day));
+        EXPECT_EQ(std::tie(first.year, first.month, first.day),
+                  std::tie(c.newYear.year, c.newYear.month, c.newYear.day));
         int column = c.farvardinColumn;
         for (int m = 0; m < 12; ++m) {
             const int length = m < 6 ? 31 : m < 11 ? 30 : c.esfandLength;

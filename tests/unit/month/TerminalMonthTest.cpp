@@ -31,7 +31,8 @@ TEST(TerminalMonthParse, TakesAPersianYearAndMonth)
     EXPECT_EQ(TerminalMonth::parse("1392-01"), (YM{1392, 1}));
     EXPECT_EQ(TerminalMonth::parse("1405-12"), (YM{1405, 12}));
     EXPECT_EQ(TerminalMonth::parse("1392-7"), (YM{1392, 7}));
-    for (const char* bad : {"1392-13", "1392-00", "92-01", "1392", "1392-", "abcd-01", "1392-001", "1392-1a", "-1392-01", ""})
+    for (const char* bad :
+         {"1392-13", "1392-00", "92-01", "1392", "1392-", "abcd-01", "1392-001", "1392-1a", "-1392-01", ""})
         EXPECT_FALSE(TerminalMonth::parse(bad)) << bad;
 }
 

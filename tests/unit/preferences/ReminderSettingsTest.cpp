@@ -47,15 +47,31 @@ TEST_F(ReminderSettingsTest, LoadsTheStoredRow)
     };
     const std::vector<Case> cases = {
         {"Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 0, Item4 = 0, Item5 = 0",
-         {1, 1, 1, 0, 0, 0}, {5, 5, 5}, {3, 1, 1, 1}, {0, 0, 0}, {"٥", "٥", "٥"}},
+         {1, 1, 1, 0, 0, 0},
+         {5, 5, 5},
+         {3, 1, 1, 1},
+         {0, 0, 0},
+         {"٥", "٥", "٥"}},
         {"Item0 = 0, Item1 = 1, Item2 = 0, Item3 = 15, Item4 = 0, Item5 = 0",
-         {0, 1, 0, 1, 0, 0}, {15, 5, 5}, {3, 2, 1, 1}, {2, 0, 0}, {"١٥", "٥", "٥"}},
+         {0, 1, 0, 1, 0, 0},
+         {15, 5, 5},
+         {3, 2, 1, 1},
+         {2, 0, 0},
+         {"١٥", "٥", "٥"}},
         // A lead that is no multiple of 5 keeps its own number; the slider sits at 7 / 5 - 1.
         {"Item0 = 1, Item1 = 0, Item2 = 1, Item3 = 0, Item4 = 60, Item5 = 7",
-         {1, 0, 1, 0, 1, 1}, {5, 60, 7}, {3, 1, 2, 2}, {0, 11, 0}, {"٥", "٦٠", "٧"}},
+         {1, 0, 1, 0, 1, 1},
+         {5, 60, 7},
+         {3, 1, 2, 2},
+         {0, 11, 0},
+         {"٥", "٦٠", "٧"}},
         // Text that is no number reads as off.
         {"Item0 = 'x', Item1 = '', Item2 = '2abc', Item3 = 'abc', Item4 = '-', Item5 = '45 '",
-         {0, 0, 1, 0, 0, 1}, {5, 5, 45}, {3, 1, 1, 2}, {0, 0, 8}, {"٥", "٥", "٤٥"}},
+         {0, 0, 1, 0, 0, 1},
+         {5, 5, 45},
+         {3, 1, 1, 2},
+         {0, 0, 8},
+         {"٥", "٥", "٤٥"}},
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.row);
@@ -164,7 +180,8 @@ TEST_F(ReminderSettingsTest, AfterSaveTheFlagsAreBackToOneAndAStoredOddLeadSurvi
 
 TEST_F(ReminderSettingsTest, LabelsAreTheRowsOfTheScreen)
 {
-    const std::vector<std::string> expected = {"اذان صبح", "اذان ظهر", "اذان مغرب", "طلوع آفتاب", "وقت سحر", "وقت افطار"};
+    const std::vector<std::string> expected = {"اذان صبح",   "اذان ظهر", "اذان مغرب",
+                                               "طلوع آفتاب", "وقت سحر",  "وقت افطار"};
     for (int item = 0; item < ReminderSettings::itemCount; ++item)
         EXPECT_EQ(ReminderSettings::label(item), expected[item]);
     EXPECT_EQ(ReminderSettings::itemOfSwitch(0, 2), 2);

@@ -1,9 +1,9 @@
 #include "screens/preferences/SoundChoice.h"
 
 #include "platform/SoundFiles.h"
+#include "tests/support/FileText.h"
 #include "tests/support/RecordingAudioPlayer.h"
 #include "tests/unit/preferences/PreferencesFixture.h"
-#include "tests/support/FileText.h"
 
 #include <gtest/gtest.h>
 

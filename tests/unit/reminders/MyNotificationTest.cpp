@@ -42,8 +42,14 @@ protected:
         return *scheduler_;
     }
 
-    void choose(int stateId) { ASSERT_TRUE(db().ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(" + std::to_string(stateId) + ", 1)")); }
-    void settings(const std::string& assignments) { ASSERT_TRUE(db().ExecuteNonQuery("UPDATE tSetting SET " + assignments)); }
+    void choose(int stateId)
+    {
+        ASSERT_TRUE(db().ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(" + std::to_string(stateId) + ", 1)"));
+    }
+    void settings(const std::string& assignments)
+    {
+        ASSERT_TRUE(db().ExecuteNonQuery("UPDATE tSetting SET " + assignments));
+    }
 
     std::vector<NotificationRecord> update()
     {
@@ -82,7 +88,7 @@ TEST_F(Reminders, ACentreWithEverythingOnJustAfterMidnightGetsSixADayForFiveDays
     EXPECT_EQ(records[2].alertBody, "اذان مغرب به افق تهران");
     EXPECT_EQ(records[2].fireDate, tehran(2013, 5, 22, 20, 42));  // 19:42 on 1 Khordad
     EXPECT_EQ(records[3].alertBody, "تا طلوع آفتاب تنها ١٠ دقیفه زمان باقیست");
-    EXPECT_EQ(records[3].fireDate, tehran(2013, 5, 22, 6, 57));   // 6:07 + 1 hour - 10 minutes
+    EXPECT_EQ(records[3].fireDate, tehran(2013, 5, 22, 6, 57));  // 6:07 + 1 hour - 10 minutes
     EXPECT_EQ(records[3].soundName, "alarm.wav");
     EXPECT_EQ(records[4].alertBody, "تا اذان صبح تنها ٢٠ دقیفه زمان باقیست");
     EXPECT_EQ(records[4].soundName, "11.wav");
@@ -109,11 +115,11 @@ TEST_F(Reminders, AnOffsetCityIsShiftedPerColumnForFourDays)
     ASSERT_EQ(records.size(), 24u);
     EXPECT_EQ(records[0].alertBody, "اذان صبح به افق شهریار");
     EXPECT_EQ(records[0].fireDate, tehran(2013, 11, 11, 4, 32));  // 4:35 - 3, no summer hour in Aban
-    EXPECT_EQ(records[4].fireDate, tehran(2013, 11, 11, 4, 2));   // suhur warning 30 minutes before
+    EXPECT_EQ(records[4].fireDate, tehran(2013, 11, 11, 4, 2));  // suhur warning 30 minutes before
     // Fixture 920820: T2 6:04, T3 11:50, T5 17:24; offsets T2 +2, T3 +5, T5 +7.
     EXPECT_EQ(records[1].fireDate, tehran(2013, 11, 11, 11, 55));
     EXPECT_EQ(records[2].fireDate, tehran(2013, 11, 11, 17, 31));
-    EXPECT_EQ(records[3].fireDate, tehran(2013, 11, 11, 5, 51));   // sunrise 6:06 less 15 minutes
+    EXPECT_EQ(records[3].fireDate, tehran(2013, 11, 11, 5, 51));  // sunrise 6:06 less 15 minutes
     EXPECT_EQ(records[5].fireDate, tehran(2013, 11, 11, 17, 21));  // evening call 17:31 less 10
     EXPECT_EQ(records[23].fireDate, tehran(2013, 11, 14, 17, 24));  // the fourth day is the last
 }
@@ -136,6 +142,7 @@ TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
         const char* name;
         int city;
         const char* change;
+        // clang-format off
     } cases[] = {
         {"no offset row", 63, "DELETE FROM tTimes WHERE StateID = 63"},
         {"a day's row instead", 63,
@@ -144,13 +151,15 @@ TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
          "INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES(20, 'اسلامشهر', 1, 0);"
          " INSERT INTO tTimes VALUES(20, 14000101, 1, 1, 1, 1, 1, 1)"},
     };
+    // clang-format on
     for (const auto& c : cases) {
         test::TempFolder folder;
         const FixedPaths own(folder.path() / "documents", folder.path() / "resources");
         const auto file = test::buildFixtureDatabase(own.resourceFolder(), {"fixture-data.sql", "offset-city.sql"});
         test::execSql(file, c.change);
-        test::execSql(file, "INSERT INTO tSelectedStates VALUES(" + std::to_string(c.city) +
-                                ", 1); UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item7 = '08:00'");
+        test::execSql(file,
+                      "INSERT INTO tSelectedStates VALUES(" + std::to_string(c.city)
+                          + ", 1); UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item7 = '08:00'");
         MyDB ownDb("Icons", own, log);
         notifications.records.clear();
         MyNotification(ownDb, clock, calendar, notifications, random, log).update();

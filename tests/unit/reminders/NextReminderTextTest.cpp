@@ -24,6 +24,7 @@ TEST(NextReminderText, NamesTheCallItsTimeAndTheTimeLeft)
         std::string left;
     };
     const Instant at = tehran(2026, 11, 22, 17, 13);
+    // clang-format off
     const Case cases[] = {
         {tehran(2026, 11, 22, 14, 58), "٢ ساعت و ١٥ دقیقه"},
         // A part of a minute counts as a whole one.
@@ -34,6 +35,7 @@ TEST(NextReminderText, NamesTheCallItsTimeAndTheTimeLeft)
         {tehran(2026, 11, 20, 16, 3), "٢ روز و ١ ساعت و ١٠ دقیقه"},
         {at, "کمتر از یک دقیقه"},
     };
+    // clang-format on
     IcuPersianCalendar calendar;
     for (const Case& c : cases)
         EXPECT_EQ(nextReminderText({reminder(at, evening)}, c.now, calendar),

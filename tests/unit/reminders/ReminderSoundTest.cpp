@@ -82,8 +82,9 @@ TEST_F(ReminderSoundTest, ANewerReminderCutsTheOlderShortAndKeepsItsOwnTicket)
     sound.stop(newer);
     EXPECT_FALSE(sound.isPlaying());
     EXPECT_EQ(audio.stops, 2);
-    EXPECT_EQ(log.lines, (std::vector<std::string>{"sound playing: 3.wav", "sound stopped", "sound playing: alarm.wav",
-                                                   "sound stopped"}));
+    EXPECT_EQ(log.lines,
+              (std::vector<std::string>{"sound playing: 3.wav", "sound stopped", "sound playing: alarm.wav",
+                                        "sound stopped"}));
 }
 
 }  // namespace

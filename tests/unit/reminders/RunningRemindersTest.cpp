@@ -148,9 +148,11 @@ TEST_P(JumpOverTheNoonCall, FiresWhatIsAtMostFifteenMinutesLateAndDropsTheRest)
     EXPECT_EQ(timesFired(dawn, stored(2, "T1")), 1);
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(Lateness, JumpOverTheNoonCall,
                          ::testing::Values(Jump{1min, true}, Jump{10min, true}, Jump{15min, true}, Jump{16min, false},
                                            Jump{3h, false}));
+// clang-format on
 
 TEST_F(RunningReminders, ANewTimeZoneRebuildsTheRemindersInIt)
 {

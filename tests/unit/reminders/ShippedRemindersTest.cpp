@@ -40,8 +40,8 @@ protected:
         const std::string key = format("10509%02d", {day});
         const std::string time = scalar("SELECT " + column + " FROM tTimes WHERE StateID = 39 AND Date = " + key);
         const std::size_t colon = time.find(':');
-        return tehran(2026, 11, 21 + day, std::stoi(time.substr(0, colon)), std::stoi(time.substr(colon + 1))) +
-               std::chrono::minutes(shift);
+        return tehran(2026, 11, 21 + day, std::stoi(time.substr(0, colon)), std::stoi(time.substr(colon + 1)))
+            + std::chrono::minutes(shift);
     }
 
     FixedClock clock{tehran(2026, 11, 22, 0, 1)};
@@ -110,8 +110,8 @@ TEST_F(ShippedReminders, AfterTheOfficialLeapYearTheDaysStillMatchTheirTimes)
     const auto records = updateFor(tehranCentre);
     ASSERT_EQ(records.size(), 15u);
     for (int day = 0; day < 5; ++day) {
-        const std::string dawn
-            = scalar(format("SELECT T1 FROM tTimes WHERE StateID = 39 AND Date = 10804%02d", {11 + day}));
+        const std::string dawn =
+            scalar(format("SELECT T1 FROM tTimes WHERE StateID = 39 AND Date = 10804%02d", {11 + day}));
         const std::size_t colon = dawn.find(':');
         EXPECT_EQ(records[static_cast<std::size_t>(3 * day)].fireDate,
                   tehran(2029, 7, 1 + day, std::stoi(dawn.substr(0, colon)), std::stoi(dawn.substr(colon + 1))))
