@@ -1,5 +1,6 @@
 // One month switch of the calendar (its query through MyDB, which opens and closes the file, and
 // the grid of day buttons) beside the bare month query on a connection held open, the floor.
+#include "bench/OpenConnection.h"
 #include "calendar/DateTimePersian.h"
 #include "data/MyDB.h"
 #include "platform/FixedPaths.h"
@@ -48,12 +49,7 @@ void MonthQueryOnOpenConnection(benchmark::State& state)
     sqlite3_open(shipped.db.dbPath().c_str(), &connection);
     const std::string text = MonthGrid::monthStatement(1405, 4);
     for (auto _ : state) {
-        sqlite3_stmt* statement = nullptr;
-        sqlite3_prepare_v2(connection, text.c_str(), -1, &statement, nullptr);
-        while (sqlite3_step(statement) == SQLITE_ROW)
-            for (int c = 0; c < sqlite3_column_count(statement); ++c)
-                benchmark::DoNotOptimize(sqlite3_column_text(statement, c));
-        sqlite3_finalize(statement);
+        bench::runOpen(connection, text);
     }
     sqlite3_close(connection);
 }

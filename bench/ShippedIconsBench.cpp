@@ -1,6 +1,7 @@
 // The main screen's day query for one city, and a full reminder rebuild, on the generated
 // database: through MyDB (open and close on every call) beside the same work on a connection
 // held open, which is the floor.
+#include "bench/OpenConnection.h"
 #include "data/Format.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
@@ -34,17 +35,6 @@ struct Shipped {
     MyDB db;
 };
 
-// Steps a statement through on an open connection, reading every column as MyDB would.
-void runOpen(sqlite3* connection, const std::string& text)
-{
-    sqlite3_stmt* statement = nullptr;
-    sqlite3_prepare_v2(connection, text.c_str(), -1, &statement, nullptr);
-    while (sqlite3_step(statement) == SQLITE_ROW)
-        for (int c = 0; c < sqlite3_column_count(statement); ++c)
-            benchmark::DoNotOptimize(sqlite3_column_text(statement, c));
-    sqlite3_finalize(statement);
-}
-
 void DayQueryThroughMyDB(benchmark::State& state)
 {
     Shipped shipped;
@@ -61,7 +51,7 @@ void DayQueryOnOpenConnection(benchmark::State& state)
     sqlite3_open(shipped.db.dbPath().c_str(), &connection);
     const std::string text = formatSql(sql::dayTimes, {"1050901", tehranCentre});
     for (auto _ : state)
-        runOpen(connection, text);
+        bench::runOpen(connection, text);
     sqlite3_close(connection);
 }
 BENCHMARK(DayQueryOnOpenConnection);
@@ -92,7 +82,7 @@ void ReminderQueriesOnOpenConnection(benchmark::State& state)
                                    formatSql(sql::reminderTimes, {"1050901", tehranCentre, tehranCentre})};
     for (auto _ : state)
         for (const std::string& text : queries)
-            runOpen(connection, text);
+            bench::runOpen(connection, text);
     sqlite3_close(connection);
 }
 BENCHMARK(ReminderQueriesOnOpenConnection);
