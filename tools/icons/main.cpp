@@ -1,6 +1,6 @@
 // Writes the database file Icons from the text sources: the schema, the places, the times of
 // every centre computed astronomically, the calendar of occasions and the settings row.
-#include "data/Format.h"
+#include "text/Format.h"
 #include "tools/astronomy/PrayerTimes.h"
 #include "tools/icons/DayCalendar.h"
 #include "tools/icons/OccasionCalendar.h"

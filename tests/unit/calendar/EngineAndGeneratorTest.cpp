@@ -1,7 +1,7 @@
 #include "calendar/DateTimePersian.h"
-#include "data/Format.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
+#include "text/Format.h"
 #include "tools/icons/DayCalendar.h"
 
 #include <gtest/gtest.h>
