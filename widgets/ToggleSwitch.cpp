@@ -2,7 +2,7 @@
 
 #include "widgets/AccessibleFactory.h"
 #include "widgets/Animations.h"
-#include "widgets/ToggleSwitchAccessible.h"
+#include "widgets/TapButtonAccessible.h"
 
 #include <QPainter>
 
@@ -17,7 +17,7 @@ constexpr int margin = 2;
 
 ToggleSwitch::ToggleSwitch(QWidget* parent) : QAbstractButton(parent)
 {
-    installAccessibleInterface<ToggleSwitch, ToggleSwitchAccessible>();
+    installAccessibleInterface<ToggleSwitch, TapButtonAccessible>();
     setCheckable(true);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

@@ -1,13 +1,13 @@
 #pragma once
 
-#include "widgets/TabBarController.h"
+#include <QTabWidget>
 
 namespace kavenda {
 
 class SelectionControllerDelegate;
 
-// The options' tab bar; it carries the screen to tell when the options close.
-class CustomUITabBarController : public TabBarController {
+// The options' tabs, their bar at the bottom; it carries the screen to tell when the options close.
+class CustomUITabBarController : public QTabWidget {
     Q_OBJECT
 
 public:
@@ -20,12 +20,14 @@ public:
     SelectionControllerDelegate* parentDelegate() const { return parentDelegate_; }
     void setParentDelegate(SelectionControllerDelegate* delegate) { parentDelegate_ = delegate; }
 
-    // A page of the layout file, titled with its window title.
-    void addPage(QWidget* page);
     void setPreferencesEnabled(bool enabled);
+    // A screen pushed over the cities' list takes the whole height.
+    void setTabBarHidden(bool hidden);
+    bool isTabBarHidden() const;
 
 private:
     SelectionControllerDelegate* parentDelegate_ = nullptr;
+    int shownTab_ = 0;
 };
 
 }  // namespace kavenda

@@ -31,7 +31,7 @@ void EditableCityList::setCities(const ChosenCities& cities)
         item->setTextAlignment(Qt::AlignVCenter | Qt::AlignLeading);
         if (ChosenCities::isDimmed(row))
             item->setForeground(QColor(Qt::gray));
-        item->setData(Qt::AccessibleDescriptionRole, tr("حذف با Delete، جابجایی با Ctrl و بالا یا پایین"));
+        item->setData(Qt::AccessibleDescriptionRole, QStringLiteral("حذف با Delete، جابجایی با Ctrl و بالا یا پایین"));
     }
 }
 
@@ -58,7 +58,7 @@ int EditableCityList::rowAt(const QPoint& position) const
 
 int EditableCityList::dropRowAt(int y) const
 {
-    return std::clamp(y / ChosenCities::rowHeight, 0, std::max(count() - 1, 0));
+    return std::clamp(y / rowHeight, 0, std::max(count() - 1, 0));
 }
 
 void EditableCityList::setConfirmingRow(int row)

@@ -1,6 +1,5 @@
 #include "screens/cities/EditingRowDelegate.h"
 
-#include "screens/cities/ChosenCities.h"
 #include "screens/cities/EditableCityList.h"
 
 #include <QPainter>
@@ -80,7 +79,7 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         painter->setBrush(QColor(0xd0, 0x20, 0x20));
         painter->drawRoundedRect(button, 5, 5);
         painter->setPen(Qt::white);
-        painter->drawText(button, Qt::AlignCenter, EditableCityList::tr("حذف"));
+        painter->drawText(button, Qt::AlignCenter, QStringLiteral("حذف"));
     } else {
         const QRect grip = gripRect(row, direction);
         painter->setPen(QPen(QColor(0xa8, 0xa8, 0xa8), 2));
@@ -94,7 +93,7 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 
 QSize EditingRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    return {QStyledItemDelegate::sizeHint(option, index).width(), ChosenCities::rowHeight};
+    return {QStyledItemDelegate::sizeHint(option, index).width(), EditableCityList::rowHeight};
 }
 
 }  // namespace kavenda

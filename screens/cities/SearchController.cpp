@@ -2,7 +2,6 @@
 
 #include "screens/cities/SearchControllerDelegate.h"
 #include "ui_SearchController.h"
-#include "widgets/RowChoice.h"
 
 #include <QShortcut>
 #include <QToolButton>
@@ -14,15 +13,15 @@ SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
 {
     ui_->setupUi(this);
     if (search_.isProvinceMode())
-        ui_->searchBar->setPlaceholderText(tr("نام استان"));
+        ui_->searchBar->setPlaceholderText(QStringLiteral("نام استان"));
     ui_->searchBar->setAccessibleName(ui_->searchBar->placeholderText());
     // The field's clear button is Qt's own and comes without a name.
     if (auto* clear = ui_->searchBar->findChild<QToolButton*>())
-        clear->setAccessibleName(tr("پاک کردن"));
+        clear->setAccessibleName(QStringLiteral("پاک کردن"));
     connect(ui_->searchBar, &QLineEdit::textChanged, this, &SearchController::textDidChange);
     connect(ui_->cancelButton, &QPushButton::clicked, this, &SearchController::cancel);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &SearchController::cancel);
-    onRowChosen(ui_->tblResult, [this](int row) { pick(row); });
+    connect(ui_->tblResult, &QListWidget::activated, this, [this](const QModelIndex& row) { pick(row.row()); });
     // Enter picks the only candidate left.
     connect(ui_->searchBar, &QLineEdit::returnPressed, this, [this] {
         if (search_.count() == 1)

@@ -1,7 +1,6 @@
 #include "screens/preferences/AboutController.h"
 
 #include "ui_AboutController.h"
-#include "widgets/RowChoice.h"
 
 #include <QListWidget>
 
@@ -30,7 +29,7 @@ AboutController::AboutController(AboutRows rows, UrlOpener* urls, QWidget* paren
             item->setFlags(Qt::ItemIsEnabled);
     }
     layout_->tbl->setFixedHeight(rowHeight * AboutRows::rowCount);
-    onRowChosen(layout_->tbl, [this](int row) { didSelectRow(row); });
+    connect(layout_->tbl, &QListWidget::activated, this, [this](const QModelIndex& row) { didSelectRow(row.row()); });
 }
 
 AboutController::~AboutController() = default;

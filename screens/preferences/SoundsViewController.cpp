@@ -4,7 +4,6 @@
 #include "platform/Alerts.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SoundsViewController.h"
-#include "widgets/RowChoice.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -50,7 +49,7 @@ SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPl
     layout_->btnOwnFile->setAccessibleName(layout_->btnOwnFile->text());
     choice_.load();
     buildRows();
-    onRowChosen(layout_->tbl, [this](int row) { didSelectRow(row); });
+    connect(layout_->tbl, &QListWidget::activated, this, [this](const QModelIndex& row) { didSelectRow(row.row()); });
     connect(saveButton_, &QPushButton::clicked, this, &SoundsViewController::save);
     connect(layout_->btnOwnFile, &QPushButton::clicked, this, &SoundsViewController::chooseOwnFile);
 }

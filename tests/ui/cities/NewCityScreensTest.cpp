@@ -1,11 +1,11 @@
 #include "app/PersianFont.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/NewCityController.h"
-#include "screens/cities/OffsetSlider.h"
 #include "screens/cities/SearchController.h"
 #include "screens/cities/SelectionController.h"
 #include "tests/ui/cities/OptionsFixture.h"
 #include "widgets/Animations.h"
+#include "widgets/FineSlider.h"
 #include "widgets/NavigationStack.h"
 
 #include <QAccessible>
@@ -106,7 +106,7 @@ private slots:
             QCOMPARE(editor->rowLabel(i)->text(), persian(rows[i].label));
             QCOMPARE(editor->rowLabel(i)->font().pixelSize(), rows[i].size);
             QVERIFY(editor->rowLabel(i)->font().bold());
-            QCOMPARE(editor->slider(i)->minutes(), 0);
+            QCOMPARE(editor->slider(i)->wholeValue(), 0);
             QCOMPARE(editor->valueLabel(i)->text(), QStringLiteral("\u0660"));
         }
     }

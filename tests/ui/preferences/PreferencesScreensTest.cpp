@@ -61,13 +61,13 @@ struct Preferences : RecordedServices, OptionsFixture {
 
     template <typename Screen> Screen* showTab(int index)
     {
-        QTest::mouseClick(tabs()->tabButton(index), Qt::LeftButton);
+        clickTab(index);
         if (tabs()->currentIndex() != index)
             return nullptr;
-        return tabs()->page(index)->findChild<Screen*>();
+        return tabs()->widget(index)->findChild<Screen*>();
     }
 
-    NavigationStack* stackOf(int index) const { return qobject_cast<NavigationStack*>(tabs()->page(index)); }
+    NavigationStack* stackOf(int index) const { return qobject_cast<NavigationStack*>(tabs()->widget(index)); }
 
     std::string setting(const std::string& column)
     {
@@ -124,7 +124,7 @@ private slots:
         Preferences f;
         const QStringList titles = {"تنظیمات", "اذان", "مناسبت ها", "درباره ما"};
         for (int tab = 1; tab <= 4; ++tab) {
-            QTest::mouseClick(f.tabs()->tabButton(tab), Qt::LeftButton);
+            f.clickTab(tab);
             QCOMPARE(f.tabs()->currentIndex(), tab);
             QCOMPARE(f.stackOf(tab)->title(), titles[tab - 1]);
             QCOMPARE(f.stackOf(tab)->count(), 1);
@@ -342,7 +342,7 @@ private slots:
         auto* occasions = f.showTab<HistoryViewController>(3);
         click(occasions->switchOn());
         click(occasions->saveButton());
-        QTest::mouseClick(f.tabs()->tabButton(0), Qt::LeftButton);
+        f.clickTab(0);
         click(f.selection()->btnDone());
         QCOMPARE(f.pendingAtClose.size(), 1);
 
