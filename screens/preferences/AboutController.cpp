@@ -1,6 +1,8 @@
 #include "screens/preferences/AboutController.h"
 
 #include "ui_AboutController.h"
+#include "widgets/AccessibleFactory.h"
+#include "widgets/ListRowsAccessible.h"
 
 #include <QListWidget>
 
@@ -17,6 +19,7 @@ constexpr int rowHeight = 44;
 AboutController::AboutController(AboutRows rows, UrlOpener* urls, QWidget* parent)
     : QWidget(parent), layout_(std::make_unique<::Ui::AboutController>()), rows_(std::move(rows)), urls_(urls)
 {
+    installAccessibleInterface<QListWidget, ListRowsAccessible>();
     layout_->setupUi(this);
     for (int row = 0; row < AboutRows::rowCount; ++row) {
         const QString text = QString::fromStdString(rows_.text(row));
