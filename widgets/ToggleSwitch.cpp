@@ -2,6 +2,7 @@
 
 #include "widgets/AccessibleFactory.h"
 #include "widgets/Animations.h"
+#include "widgets/FocusRingStyle.h"
 #include "widgets/TapButtonAccessible.h"
 
 #include <QPainter>
@@ -83,6 +84,8 @@ void ToggleSwitch::paintEvent(QPaintEvent*)
     painter.setPen(QPen(QColor(0, 0, 0, 50), 1.0));
     painter.setBrush(Qt::white);
     painter.drawEllipse(knob);
+    if (FocusRingStyle::showsFocus(this))
+        FocusRingStyle::drawFocusRing(&painter, rect(), palette(), radius);
 }
 
 }  // namespace kavenda

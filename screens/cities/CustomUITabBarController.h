@@ -2,6 +2,8 @@
 
 #include <QTabWidget>
 
+#include <functional>
+
 namespace kavenda {
 
 class SelectionControllerDelegate;
@@ -25,9 +27,21 @@ public:
     void setTabBarHidden(bool hidden);
     bool isTabBarHidden() const;
 
+    // Whether the shown tab may be left; a tab with unsaved changes asks first.
+    void setLeaveCheck(std::function<bool(int tab)> check) { leaveCheck_ = std::move(check); }
+    bool mayLeave(int tab) const { return !leaveCheck_ || leaveCheck_(tab); }
+
+signals:
+    // Escape, where nothing nearer the focus took it: the options close as Done closes them.
+    void closeRequested();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+
 private:
     SelectionControllerDelegate* parentDelegate_ = nullptr;
     int shownTab_ = 0;
+    std::function<bool(int tab)> leaveCheck_;
 };
 
 }  // namespace kavenda

@@ -11,6 +11,20 @@
 
 namespace kavenda {
 
+namespace {
+
+bool isDeleteKey(int key)
+{
+    return key == Qt::Key_Delete || key == Qt::Key_Backspace;
+}
+
+bool isEnterKey(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+}  // namespace
+
 EditableCityList::EditableCityList(QWidget* parent) : QListWidget(parent)
 {
     setItemDelegate(new EditingRowDelegate(this));
@@ -109,15 +123,15 @@ void EditableCityList::mouseReleaseEvent(QMouseEvent* event)
     emit moveRequested(from, to);
 }
 
-// The keyboard does what the controls do: Delete asks and a second Delete removes the row;
-// Ctrl with Up or Down moves it. Arrows alone go from row to row.
+// The keyboard does what the controls do: Delete asks, and Enter (or a second Delete) removes
+// the row while Escape keeps it; Ctrl with Up or Down moves it. Arrows alone go from row to row.
 void EditableCityList::keyPressEvent(QKeyEvent* event)
 {
     const int row = currentRow();
     const bool moving = event->modifiers() & Qt::ControlModifier;
     if (row < 0) {
         QListWidget::keyPressEvent(event);
-    } else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
+    } else if (isDeleteKey(event->key()) || (isEnterKey(event->key()) && row == confirmingRow_)) {
         if (row != confirmingRow_) {
             setConfirmingRow(row);
             return;

@@ -1,6 +1,7 @@
 #include "screens/cities/EditingRowDelegate.h"
 
 #include "screens/cities/EditableCityList.h"
+#include "widgets/FocusRingStyle.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -47,6 +48,7 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 {
     const Qt::LayoutDirection direction = option.direction;
     const QRect row = option.rect;
+    const bool focused = option.state & QStyle::State_HasFocus;
     const bool confirming = list_->confirmingRow() == index.row();
     const bool dragged = list_->draggedRow() == index.row();
 
@@ -88,6 +90,8 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
             painter->drawLine(grip.left() + 3, y, grip.right() - 3, y);
         }
     }
+    if (focused)
+        FocusRingStyle::drawFocusRing(painter, row, option.palette);
     painter->restore();
 }
 

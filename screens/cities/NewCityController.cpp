@@ -139,7 +139,8 @@ void NewCityController::buildNameSection(QWidget* content)
     nameField_->setStyleSheet(QStringLiteral("color: black; background: transparent;"));
     nameField_->installEventFilter(this);
     connect(nameField_, &QLineEdit::textEdited, this, [this] { editingField_ = true; });
-    connect(nameField_, &QLineEdit::returnPressed, this, &NewCityController::commitName);
+    // Return and leaving the field both commit the name.
+    connect(nameField_, &QLineEdit::editingFinished, this, &NewCityController::commitName);
 
     provinceRow_ = new QPushButton(content);
     place(provinceRow_, sectionX, nameSectionY + rowHeight, sectionWidth, rowHeight);
@@ -152,7 +153,8 @@ void NewCityController::buildNameSection(QWidget* content)
     provinceValue_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     provinceValue_->setStyleSheet(QStringLiteral("color: #385487;"));
     provinceValue_->setAttribute(Qt::WA_TransparentForMouseEvents);
-    auto* disclosure = new QLabel(QStringLiteral("\u203A"), provinceRow_);
+    // Onwards is to the left in the right-to-left screens.
+    auto* disclosure = new QLabel(QStringLiteral("\u2039"), provinceRow_);
     place(disclosure, sectionWidth - 22, 0, 14, rowHeight);
     disclosure->setStyleSheet(QStringLiteral("color: #a0a0a0; font-size: 20px;"));
     disclosure->setAttribute(Qt::WA_TransparentForMouseEvents);

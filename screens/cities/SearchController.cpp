@@ -2,6 +2,8 @@
 
 #include "screens/cities/SearchControllerDelegate.h"
 #include "ui_SearchController.h"
+#include "widgets/AccessibleFactory.h"
+#include "widgets/ListRowsAccessible.h"
 
 #include <QShortcut>
 #include <QToolButton>
@@ -11,6 +13,7 @@ namespace kavenda {
 SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::SearchController>()), search_(db, typeID)
 {
+    installAccessibleInterface<QListWidget, ListRowsAccessible>();
     ui_->setupUi(this);
     if (search_.isProvinceMode())
         ui_->searchBar->setPlaceholderText(QStringLiteral("نام استان"));
@@ -66,6 +69,10 @@ void SearchController::showCandidates()
     ui_->tblResult->clear();
     for (int row = 0; row < search_.count(); ++row)
         ui_->tblResult->addItem(QString::fromStdString(search_.nameAt(row)));
+    // The keyboard starts at the first candidate, and shows it when the list has the focus.
+    if (search_.count() > 0)
+        ui_->tblResult->selectionModel()->setCurrentIndex(ui_->tblResult->model()->index(0, 0),
+                                                          QItemSelectionModel::NoUpdate);
 }
 
 void SearchController::pick(int row)

@@ -7,6 +7,8 @@
 #include "screens/cities/NewCityController.h"
 #include "screens/cities/RoundedCorners.h"
 #include "screens/cities/SearchController.h"
+#include "widgets/AccessibleFactory.h"
+#include "widgets/ListRowsAccessible.h"
 #include "widgets/NavigationStack.h"
 
 #include <QHBoxLayout>
@@ -72,7 +74,8 @@ QListWidget* makeCreateRow(QWidget* parent)
     layout->addWidget(new QLabel(text, row));
     layout->addStretch();
     auto* disclosure = new QLabel(row);
-    disclosure->setText(row->isRightToLeft() ? QStringLiteral("\u2039") : QStringLiteral("\u203A"));
+    // Onwards is to the left in the right-to-left screens.
+    disclosure->setText(QStringLiteral("\u2039"));
     disclosure->setStyleSheet("color: #a0a0a0; font-size: 20px;");
     layout->addWidget(disclosure);
     table->setItemWidget(item, row);
@@ -89,6 +92,7 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
       btnSearch_(new QPushButton(QStringLiteral("جستجو"), this)),
       btnDone_(new QPushButton(QStringLiteral("تمام"), this))
 {
+    installAccessibleInterface<QListWidget, ListRowsAccessible>();
     setWindowTitle(QStringLiteral("شهرها"));
     setAutoFillBackground(true);
     QPalette page = palette();
@@ -97,6 +101,8 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
 
     tblScrollView_->setGeometry(listX, listY, listWidth, minimumListHeight);
     tblScrollView_->setFrameShape(QFrame::NoFrame);
+    // The holder only scrolls the list; the list takes the keyboard.
+    tblScrollView_->setFocusPolicy(Qt::NoFocus);
     tblScrollView_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     tblScrollView_->setStyleSheet(QString::fromLatin1(scrollerStyle));
     tblScrollView_->setWidget(listHolder_);
@@ -152,8 +158,12 @@ void SelectionController::move(int from, int to)
     tbl_->setCities(cities_);
 }
 
+// Refused while no city is chosen, as the button is, and while a tab keeps unsaved changes.
 void SelectionController::Done()
 {
+    CustomUITabBarController* tabs = tabBarController();
+    if (!cities_.canFinish() || (tabs && !tabs->mayLeave(tabs->currentIndex())))
+        return;
     cities_.Done(delegate_);
 }
 
@@ -216,6 +226,8 @@ void SelectionController::appear()
     showCities();
     if (auto* tabs = tabBarController()) {
         delegate_ = tabs->parentDelegate();
+        connect(tabs, &CustomUITabBarController::closeRequested, this, &SelectionController::Done,
+                Qt::UniqueConnection);
         // Back from the new-city editor, which has the whole height.
         tabs->setTabBarHidden(false);
     }

@@ -29,7 +29,8 @@ QAbstractButton* informationButton(QWidget* parent)
     button->setText(QStringLiteral("i"));
     button->setStyleSheet(QStringLiteral(
         "QToolButton { color: white; font: bold italic 12px; border: 2px solid white; border-radius: 9px; }"
-        "QToolButton:pressed { background: rgba(255, 255, 255, 90); }"));
+        "QToolButton:pressed { background: rgba(255, 255, 255, 90); }"
+        "QToolButton:focus { border-color: palette(highlight); }"));
     return button;
 }
 
@@ -40,7 +41,8 @@ QAbstractButton* calendarButton(const std::filesystem::path& resourceFolder, QWi
     button->setIcon(QIcon(QString::fromStdString((resourceFolder / "calendarBtn.png").string())));
     button->setIconSize(QSize(34, 32));
     button->setStyleSheet(
-        QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"));
+        QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"
+                       "QToolButton:focus { border: 2px solid palette(highlight); border-radius: 4px; }"));
     return button;
 }
 

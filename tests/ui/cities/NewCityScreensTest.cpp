@@ -155,6 +155,25 @@ private slots:
                  1);
     }
 
+    void leavingTheNameFieldCommitsTheName()
+    {
+        OptionsFixture f;
+        f.choose({32});
+        f.open();
+        QWidget* window = f.tabs()->window();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        NewCityController* editor = openEditor(f);
+        pickProvince(f, editor, QStringLiteral("یزد"));
+        editor->nameField()->setFocus();
+        typeText(editor->nameField(), QStringLiteral("مهریز"));
+        QVERIFY(!editor->btnSave()->isEnabled());
+        QTest::keyClick(editor->nameField(), Qt::Key_Tab);
+        QVERIFY(!editor->nameField()->hasFocus());
+        QCOMPARE(editor->draft().cityName(), persian("مهریز").toStdString());
+        QVERIFY(editor->btnSave()->isEnabled());
+    }
+
     void onlyACommittedNameCounts()
     {
         OptionsFixture f;
