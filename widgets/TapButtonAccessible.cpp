@@ -4,13 +4,18 @@
 
 namespace kavenda {
 
-TapButtonAccessible::TapButtonAccessible(QAbstractButton* button) : QAccessibleWidget(button, QAccessible::Button)
+namespace {
+
+QAccessible::Role roleOf(QWidget* button)
 {
+    auto* tappable = qobject_cast<QAbstractButton*>(button);
+    return tappable && tappable->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
 }
 
-QAccessible::Role TapButtonAccessible::role() const
+}  // namespace
+
+TapButtonAccessible::TapButtonAccessible(QWidget* button) : QAccessibleWidget(button, roleOf(button))
 {
-    return button()->isCheckable() ? QAccessible::CheckBox : QAccessible::Button;
 }
 
 QString TapButtonAccessible::text(QAccessible::Text kind) const
@@ -30,20 +35,24 @@ QAccessible::State TapButtonAccessible::state() const
 
 QStringList TapButtonAccessible::actionNames() const
 {
-    if (!button()->isEnabled())
-        return QAccessibleWidget::actionNames();
-    QStringList names{pressAction()};
-    if (button()->isCheckable())
-        names.append(toggleAction());
+    QStringList names;
+    if (button()->isEnabled()) {
+        if (button()->isCheckable())
+            names << toggleAction();
+        names << pressAction();
+    }
     return names + QAccessibleWidget::actionNames();
 }
 
+// A disabled button stays refused, as it is to a tap.
 void TapButtonAccessible::doAction(const QString& action)
 {
-    if (action == pressAction() || action == toggleAction())
-        button()->click();
-    else
+    if (action == toggleAction() || action == pressAction()) {
+        if (button()->isEnabled())
+            button()->click();
+    } else {
         QAccessibleWidget::doAction(action);
+    }
 }
 
 QAbstractButton* TapButtonAccessible::button() const

@@ -6,15 +6,13 @@ class QAbstractButton;
 
 namespace kavenda {
 
-// A button for screen readers as Qt's own button interface presents it (a check box while
-// checkable, named by its accessible name, its text or its label), except that pressing or
-// toggling it is a tap: the button clicks, slides and tells whoever listens. Qt's interface
-// toggles without a click and is not exported for reuse.
+// A button for screen readers as Qt presents one (a check box while it is checkable, with its
+// checked and pressed states), except that both its press and its toggle click the button as a
+// tap does: Qt's toggle would flip the checked state and tell no one.
 class TapButtonAccessible : public QAccessibleWidget {
 public:
-    explicit TapButtonAccessible(QAbstractButton* button);
+    explicit TapButtonAccessible(QWidget* button);
 
-    QAccessible::Role role() const override;
     QString text(QAccessible::Text kind) const override;
     QAccessible::State state() const override;
     QStringList actionNames() const override;
