@@ -1,5 +1,6 @@
 #include "screens/calendar/DayButton.h"
 
+#include "screens/calendar/DayFrame.h"
 #include "text/Format.h"
 #include "text/Utility.h"
 #include "widgets/AccessibleFactory.h"
@@ -12,13 +13,6 @@ namespace kavenda {
 
 namespace {
 
-// Column k (0 = Saturday) stands at x = 276 - 46k, row r at y = 44r + 1: Saturday rightmost.
-constexpr int cellWidth = 45;
-constexpr int cellHeight = 43;
-constexpr int firstX = 276;
-constexpr int stepX = 46;
-constexpr int stepY = 44;
-constexpr int firstY = 1;
 constexpr int titlePixels = 20;
 constexpr int focusPen = 2;
 constexpr qreal focusRadius = 6;
@@ -81,7 +75,7 @@ DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceF
     // A holiday is told by its colour alone; a screen reader says it in words.
     if (cell.holiday)
         setAccessibleDescription(tr("تعطیل"));
-    setGeometry(firstX - stepX * cell.place.column, firstY + stepY * cell.place.row, cellWidth, cellHeight);
+    setGeometry(DayFrame::x(cell.place.column), DayFrame::y(cell.place.row), DayFrame::width, DayFrame::height);
     setCursor(Qt::PointingHandCursor);
     // The grid is one stop of the focus chain; the calendar moves the stop with the arrows.
     setFocusPolicy(Qt::NoFocus);
@@ -98,7 +92,7 @@ QColor DayButton::titleColour() const
 
 QSize DayButton::sizeHint() const
 {
-    return QSize(cellWidth, cellHeight);
+    return QSize(DayFrame::width, DayFrame::height);
 }
 
 void DayButton::nextCheckState()
