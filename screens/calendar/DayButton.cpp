@@ -4,6 +4,7 @@
 #include "text/Format.h"
 #include "text/Utility.h"
 #include "widgets/AccessibleFactory.h"
+#include "widgets/FocusRingStyle.h"
 #include "widgets/TapButtonAccessible.h"
 
 #include <QPainter>
@@ -14,7 +15,6 @@ namespace kavenda {
 namespace {
 
 constexpr int titlePixels = 20;
-constexpr int focusPen = 2;
 constexpr qreal focusRadius = 6;
 
 QColor colourOf(DayCell::Ink ink)
@@ -110,16 +110,15 @@ void DayButton::paintEvent(QPaintEvent*)
     painter.setPen(titleColour());
     painter.setFont(font());
     painter.drawText(rect(), Qt::AlignCenter, text());
-    if (hasFocus()) {
-        // A thin inner line in the highlight's text colour keeps the ring clear on the dark
-        // ground of a picked day.
+    if (FocusRingStyle::showsFocus(this)) {
+        FocusRingStyle::drawFocusRing(&painter, rect(), palette(), focusRadius);
+        // A thin inner line keeps the ring clear on the dark ground of a picked day.
+        const qreal inset = FocusRingStyle::ringWidth + 0.5;
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setBrush(Qt::NoBrush);
-        const QRectF ring = QRectF(rect()).adjusted(focusPen / 2.0, focusPen / 2.0, -focusPen / 2.0, -focusPen / 2.0);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), focusPen));
-        painter.drawRoundedRect(ring, focusRadius, focusRadius);
         painter.setPen(QPen(palette().color(QPalette::HighlightedText), 1));
-        painter.drawRoundedRect(ring.adjusted(1.5, 1.5, -1.5, -1.5), focusRadius - 1.5, focusRadius - 1.5);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), focusRadius - inset,
+                                focusRadius - inset);
     }
 }
 
