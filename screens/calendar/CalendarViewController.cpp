@@ -60,8 +60,6 @@ CalendarViewController::CalendarViewController(const DateTimePersian& date, cons
         connect(step, &QAbstractButton::clicked, this, [this, step] { changeMonth(step->property("tag").toInt()); });
     connect(ui_->todayButton, &QPushButton::clicked, this, &CalendarViewController::showToday);
     connect(ui_->detailsButton, &QPushButton::clicked, this, &CalendarViewController::showDetails);
-    for (QAbstractButton* button : steps + QList<QAbstractButton*>{ui_->todayButton, ui_->detailsButton})
-        button->installEventFilter(this);
 
     apply(grid_.viewDidLoad());
     reloadData();
@@ -287,22 +285,16 @@ void CalendarViewController::dismissWithoutPick()
     QWidget::close();
 }
 
-// Enter presses a focused button as Space does; the arrows move through the grid.
+// The arrows move through the grid, before the button's own arrows walk the focus chain.
 bool CalendarViewController::eventFilter(QObject* watched, QEvent* event)
 {
-    auto* button = qobject_cast<QAbstractButton*>(watched);
-    if (event->type() != QEvent::KeyPress || !button)
-        return QWidget::eventFilter(watched, event);
-    const int key = static_cast<QKeyEvent*>(event)->key();
-    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
-        if (button->isEnabled())
-            button->click();
-        return true;
-    }
-    const std::optional<int> step = gridStep(key);
     auto* day = qobject_cast<DayButton*>(watched);
-    if (!step || !day)
+    const std::optional<int> step =
+        event->type() == QEvent::KeyPress ? gridStep(static_cast<QKeyEvent*>(event)->key()) : std::nullopt;
+    if (!day || !step)
         return QWidget::eventFilter(watched, event);
+    // The keyboard moved the focus, so the ring shows.
+    window()->setAttribute(Qt::WA_KeyboardFocusChange);
     focusDay(grid_.dayAfter(day->tag(), *step), true);
     return true;
 }

@@ -1,8 +1,10 @@
 #include "screens/calendar/DayButton.h"
 
+#include "screens/calendar/DayFrame.h"
 #include "text/Format.h"
 #include "text/Utility.h"
 #include "widgets/AccessibleFactory.h"
+#include "widgets/FocusRingStyle.h"
 #include "widgets/TapButtonAccessible.h"
 
 #include <QPainter>
@@ -12,15 +14,7 @@ namespace kavenda {
 
 namespace {
 
-// Column k (0 = Saturday) stands at x = 276 - 46k, row r at y = 44r + 1: Saturday rightmost.
-constexpr int cellWidth = 45;
-constexpr int cellHeight = 43;
-constexpr int firstX = 276;
-constexpr int stepX = 46;
-constexpr int stepY = 44;
-constexpr int firstY = 1;
 constexpr int titlePixels = 20;
-constexpr int focusPen = 2;
 constexpr qreal focusRadius = 6;
 
 QColor colourOf(DayCell::Ink ink)
@@ -81,7 +75,7 @@ DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceF
     // A holiday is told by its colour alone; a screen reader says it in words.
     if (cell.holiday)
         setAccessibleDescription(tr("تعطیل"));
-    setGeometry(firstX - stepX * cell.place.column, firstY + stepY * cell.place.row, cellWidth, cellHeight);
+    setGeometry(DayFrame::x(cell.place.column), DayFrame::y(cell.place.row), DayFrame::width, DayFrame::height);
     setCursor(Qt::PointingHandCursor);
     // The grid is one stop of the focus chain; the calendar moves the stop with the arrows.
     setFocusPolicy(Qt::NoFocus);
@@ -98,7 +92,7 @@ QColor DayButton::titleColour() const
 
 QSize DayButton::sizeHint() const
 {
-    return QSize(cellWidth, cellHeight);
+    return QSize(DayFrame::width, DayFrame::height);
 }
 
 void DayButton::nextCheckState()
@@ -116,16 +110,15 @@ void DayButton::paintEvent(QPaintEvent*)
     painter.setPen(titleColour());
     painter.setFont(font());
     painter.drawText(rect(), Qt::AlignCenter, text());
-    if (hasFocus()) {
-        // A thin inner line in the highlight's text colour keeps the ring clear on the dark
-        // ground of a picked day.
+    if (FocusRingStyle::showsFocus(this)) {
+        FocusRingStyle::drawFocusRing(&painter, rect(), palette(), focusRadius);
+        // A thin inner line keeps the ring clear on the dark ground of a picked day.
+        const qreal inset = FocusRingStyle::ringWidth + 0.5;
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setBrush(Qt::NoBrush);
-        const QRectF ring = QRectF(rect()).adjusted(focusPen / 2.0, focusPen / 2.0, -focusPen / 2.0, -focusPen / 2.0);
-        painter.setPen(QPen(palette().color(QPalette::Highlight), focusPen));
-        painter.drawRoundedRect(ring, focusRadius, focusRadius);
         painter.setPen(QPen(palette().color(QPalette::HighlightedText), 1));
-        painter.drawRoundedRect(ring.adjusted(1.5, 1.5, -1.5, -1.5), focusRadius - 1.5, focusRadius - 1.5);
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRoundedRect(QRectF(rect()).adjusted(inset, inset, -inset, -inset), focusRadius - inset,
+                                focusRadius - inset);
     }
 }
 

@@ -1,5 +1,7 @@
 #include "tools/artwork/Artwork.h"
 
+#include "screens/calendar/DayFrame.h"
+
 #include <QLinearGradient>
 #include <QPainter>
 
@@ -7,12 +9,8 @@ namespace kavenda::artwork {
 
 namespace {
 
-// The day buttons' frames on a month page: 45 x 43, column k at x = 276 - 46k, row r at y = 44r + 1.
-constexpr int cellWidth = 45;
-constexpr int cellHeight = 43;
-constexpr int firstCellX = 276;
-constexpr int cellStepX = 46;
-constexpr int cellStepY = 44;
+constexpr int cellWidth = DayFrame::width;
+constexpr int cellHeight = DayFrame::height;
 constexpr double cellRadius = 6;
 
 QImage transparentImage(int width, int height)
@@ -57,8 +55,7 @@ QImage calendarBackground()
     painter.fillRect(image.rect(), paper);
     for (int row = 0; row < 5; ++row)
         for (int column = 0; column < 7; ++column) {
-            const QRectF frame(firstCellX - cellStepX * column + 1.5, cellStepY * row + 2.5, cellWidth - 3,
-                               cellHeight - 3);
+            const QRectF frame(DayFrame::x(column) + 1.5, DayFrame::y(row) + 1.5, cellWidth - 3, cellHeight - 3);
             // Fridays stand on a warmer ground.
             painter.setBrush(column == 6 ? QColor(0xf6, 0xe3, 0xdc) : QColor(0xfb, 0xfa, 0xf6));
             painter.setPen(QPen(QColor(0xc9, 0xc2, 0xb0), 1.0));

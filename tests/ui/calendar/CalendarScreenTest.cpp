@@ -9,6 +9,7 @@
 #include "tests/support/TehranTime.h"
 #include "tests/ui/main/MainScreenFixture.h"
 #include "widgets/Animations.h"
+#include "widgets/EnterPressesButtons.h"
 #include "widgets/PresentationStack.h"
 
 #include <QAbstractButton>
@@ -143,6 +144,8 @@ class CalendarScreenTest : public QObject {
 private slots:
     void initTestCase()
     {
+        // As the program does: Enter presses the focused button.
+        qApp->installEventFilter(new EnterPressesButtons(qApp));
         setAnimationsEnabled(false);
         usePersianFont();
         if (!std::filesystem::exists(std::filesystem::path(KAVENDA_RESOURCE_DIR) / "Icons"))
