@@ -42,6 +42,48 @@ std::string convertedValue(sqlite3_stmt* statement, int column)
     }
 }
 
+// A plain copy that keeps the cause of a failure (the library's copy says only "I/O error" for a
+// full disk).
+std::error_code copyFile(const fs::path& from, const fs::path& to)
+{
+    const int source = ::open(from.c_str(), O_RDONLY | O_CLOEXEC);
+    if (source < 0)
+        return {errno, std::generic_category()};
+    const int target = ::open(to.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (target < 0) {
+        const std::error_code error(errno, std::generic_category());
+        ::close(source);
+        return error;
+    }
+    std::error_code error;
+    char buffer[64 * 1024];
+    for (;;) {
+        const ssize_t read = ::read(source, buffer, sizeof buffer);
+        if (read < 0 && errno == EINTR)
+            continue;
+        if (read <= 0) {
+            if (read < 0)
+                error.assign(errno, std::generic_category());
+            break;
+        }
+        ssize_t written = 0;
+        while (written < read && !error) {
+            const ssize_t now = ::write(target, buffer + written, static_cast<std::size_t>(read - written));
+            if (now < 0 && errno != EINTR)
+                error.assign(errno, std::generic_category());
+            written += now > 0 ? now : 0;
+        }
+        if (error)
+            break;
+    }
+    if (!error && ::fsync(target) != 0)
+        error.assign(errno, std::generic_category());
+    if (::close(target) != 0 && !error)
+        error.assign(errno, std::generic_category());
+    ::close(source);
+    return error;
+}
+
 bool syncToDisk(const fs::path& path)
 {
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
@@ -126,12 +168,8 @@ bool MyDB::copyDB()
     const fs::path target(dbPath_);
     fs::create_directories(target.parent_path(), error);
     const fs::path partial = target.parent_path() / (partialPrefix() + std::to_string(::getpid()));
-    bool copied =
-        fs::copy_file(paths_.resourceFolder() / fileName_, partial, fs::copy_options::overwrite_existing, error);
-    if (copied && !syncToDisk(partial)) {
-        error.assign(errno, std::generic_category());
-        copied = false;
-    }
+    error = copyFile(paths_.resourceFolder() / fileName_, partial);
+    const bool copied = !error;
     if (copied)
         fs::rename(partial, target, error);
     if (!copied || error) {

@@ -12,13 +12,9 @@ program=$1
 resources=$2
 screenshots=$3
 
-if [[ ${KAVENDA_INSIDE_SESSION:-} != 1 ]]; then
-  export KAVENDA_INSIDE_SESSION=1
-  exec xvfb-run -a -s "-screen 0 800x600x24" dbus-run-session -- "$0" "$@"
-fi
-
-work=$(mktemp -d)
 source "$(dirname "$0")/session.sh"
+x_session "$0" "$@"
+begin_work
 export XDG_RUNTIME_DIR=$work/runtime
 mkdir -m 0700 "$XDG_RUNTIME_DIR"
 

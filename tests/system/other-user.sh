@@ -14,14 +14,10 @@ if [[ $(id -u) != 0 ]] || ! command -v setpriv >/dev/null; then
   echo "SKIP: needs root and setpriv to act as a second user"
   exit 77
 fi
-if [[ ${KAVENDA_INSIDE_SESSION:-} != 1 ]]; then
-  export KAVENDA_INSIDE_SESSION=1
-  exec xvfb-run -a -s "-screen 0 800x600x24" dbus-run-session -- "$0" "$@"
-fi
-
-work=$(mktemp -d)
-chmod 0755 "$work"
 source "$(dirname "$0")/session.sh"
+x_session "$0" "$@"
+begin_work
+chmod 0755 "$work"
 # The shared temporary folder of this test: open to all, like /tmp.
 export TMPDIR=$work/tmp
 mkdir -m 1777 "$TMPDIR"

@@ -10,9 +10,9 @@ program=$1
 rounds=${2:-20}
 starts=${3:-20}
 
-work=$(mktemp -d)
 resources=""
 source "$(dirname "$0")/session.sh"
+begin_work
 export XDG_RUNTIME_DIR=$work/runtime QT_QPA_PLATFORM=offscreen
 mkdir -m 0700 "$XDG_RUNTIME_DIR"
 

@@ -1,4 +1,18 @@
-# Shared by the system tests: sourced after `set -euo pipefail`, with $work a fresh folder.
+# Shared by the system tests, sourced after `set -euo pipefail`.
+
+# Runs the script again inside an X session (Xvfb and a session bus) unless it is in one.
+x_session() {
+  if [[ ${KAVENDA_INSIDE_SESSION:-} != 1 ]]; then
+    export KAVENDA_INSIDE_SESSION=1
+    exec xvfb-run -a -s "-screen 0 800x600x24" dbus-run-session -- "$@"
+  fi
+}
+
+# A fresh folder $work for the test, removed at the end with every process in $pids.
+begin_work() {
+  work=$(mktemp -d)
+  trap cleanup EXIT
+}
 
 pids=()
 cleanup() {
@@ -6,7 +20,6 @@ cleanup() {
   wait 2>/dev/null || true
   rm -rf "$work"
 }
-trap cleanup EXIT
 
 fail() {
   echo "FAIL: $*" >&2

@@ -19,8 +19,8 @@ if [[ ${KAVENDA_INSIDE_SESSION:-} != 1 ]]; then
   exec dbus-run-session -- "$0" "$@"
 fi
 
-work=$(mktemp -d)
 source "$(dirname "$0")/session.sh"
+begin_work
 export XDG_RUNTIME_DIR=$work/runtime
 mkdir -m 0700 "$XDG_RUNTIME_DIR"
 unset DISPLAY

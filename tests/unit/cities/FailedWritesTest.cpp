@@ -42,7 +42,7 @@ TEST_F(FailedWritesTest, SettingsSoundAndOccasionsKeepTheirValuesUntilSaved)
 {
     ReminderSettings settings(db);
     settings.load();
-    settings.valueChanged(0, true, 1);
+    settings.valueChanged(0, false, 1);
     SoundChoice sound(db, paths, nullptr);
     sound.load();
     sound.didSelectRow(7);
@@ -60,11 +60,11 @@ TEST_F(FailedWritesTest, SettingsSoundAndOccasionsKeepTheirValuesUntilSaved)
         std::string stored;
     } cases[] = {
         {"settings",  [&] { return settings.save(); },  [&] { return settings.saveEnabled(); },
-                      [&] { return settings.isOn(0); },                   "SELECT Item0 FROM tSetting"},
+                      [&] { return !settings.isOn(0); },                  "SELECT Item0 FROM tSetting"},
         {"sound",     [&] { return sound.save(); },     [&] { return sound.saveEnabled(); },
                       [&] { return sound.selectedPath() == 7; },          "SELECT Item6 FROM tSetting"},
         {"occasions", [&] { return occasions.save(); }, [&] { return occasions.saveEnabled(); },
-                      [&] { return occasions.currentDate() == "9:30"; },  "SELECT Item7 FROM tSetting"},
+                      [&] { return occasions.currentDate() == "09:30"; }, "SELECT Item7 FROM tSetting"},
     };
     // clang-format on
     for (const auto& c : cases) {

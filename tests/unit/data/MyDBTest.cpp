@@ -120,7 +120,9 @@ TEST_F(MyDBTest, FirstUseCopiesTheResourceAndLaterUsesNeverOverwrite)
     }
     MyDB again("Icons", paths, log);
     EXPECT_EQ(again.ExecuteScaler("SELECT Item6 FROM tSetting"), "4");
-    EXPECT_EQ(std::distance(fs::directory_iterator(paths.documentsFolder()), fs::directory_iterator()), 1);
+    // The working copy, and the lock file under which it was made.
+    EXPECT_EQ(std::distance(fs::directory_iterator(paths.documentsFolder()), fs::directory_iterator()), 2);
+    EXPECT_TRUE(fs::exists(paths.documentsFolder() / DataFolderLock::fileName));
 }
 
 TEST_F(MyDBTest, OpeningAgainClosesTheHandleItReplaces)
