@@ -7,6 +7,7 @@
 
 #include <system_error>
 
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace kavenda {
@@ -19,7 +20,7 @@ std::string whyUnplayable(const std::filesystem::path& file)
     std::error_code error;
     if (std::filesystem::file_size(file, error) == 0 && !error)
         return "it is empty";
-    if (::access(file.c_str(), R_OK) != 0)
+    if (::faccessat(AT_FDCWD, file.c_str(), R_OK, AT_EACCESS) != 0)
         return "it cannot be read";
     return "it holds no sound that can be decoded";
 }
