@@ -32,12 +32,29 @@ ReminderSound::ReminderSound(AudioPlayer& audio, const Paths& paths, Log& log, P
 {
 }
 
+bool ReminderSound::isPlayable(const std::filesystem::path& own)
+{
+    if (!isPlayable_)
+        return true;
+    std::error_code error;
+    const auto state =
+        std::make_pair(std::filesystem::last_write_time(own, error), std::filesystem::file_size(own, error));
+    if (error)
+        return false;
+    if (const auto known = playable_.find(own.string()); known != playable_.end() && known->second == state)
+        return true;
+    if (!isPlayable_(own))
+        return false;
+    playable_[own.string()] = state;
+    return true;
+}
+
 bool ReminderSound::openOwn(const std::string& soundName)
 {
     const std::optional<std::filesystem::path> own = ownRecording(paths_, soundName);
     if (!own)
         return false;
-    if ((!isPlayable_ || isPlayable_(*own)) && audio_.open(*own))
+    if (isPlayable(*own) && audio_.open(*own))
         return true;
     if (reported_.insert(own->string()).second)
         log_.line("your recording " + own->string() + " cannot be played (" + whyUnplayable(*own)

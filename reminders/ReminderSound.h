@@ -2,8 +2,10 @@
 
 #include "platform/NotificationRecord.h"
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <set>
 #include <string>
 
@@ -36,12 +38,15 @@ public:
 
 private:
     bool openOwn(const std::string& soundName);
+    bool isPlayable(const std::filesystem::path& own);
 
     AudioPlayer& audio_;
     const Paths& paths_;
     Log& log_;
     PlayableCheck isPlayable_;
     std::set<std::string> reported_;  // own recordings already named in the log
+    // Own recordings found playable, as they were then: not decoded again for every call.
+    std::map<std::string, std::pair<std::filesystem::file_time_type, std::uintmax_t>> playable_;
     int current_ = 0;
     int lastTicket_ = 0;
 };
