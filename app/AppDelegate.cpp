@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
+#include <QShortcut>
 #include <QSystemTrayIcon>
 #include <QVBoxLayout>
 #include <QWindowStateChangeEvent>
@@ -68,8 +69,8 @@ bool AppDelegate::didFinishLaunchingWithOptions()
                                    *presentation_);
     presentation_->setRoot(root_);
     window_->installEventFilter(this);
-    // The program ends by the tray's "خروج", by kavenda --quit, or, without a tray, by closing
-    // the window while no reminder is on.
+    connect(new QShortcut(QKeySequence::Quit, window_.get()), &QShortcut::activated, this, &AppDelegate::quit);
+    // The program ends by quit() alone (see there).
     QApplication::setQuitOnLastWindowClosed(false);
     if (QSystemTrayIcon::isSystemTrayAvailable())
         makeTray();

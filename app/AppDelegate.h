@@ -48,6 +48,8 @@ public:
         tellInBackground_ = std::move(tell);
     }
     void showWindow();
+    // The one way out of the program: the tray's exit, Ctrl+Q, the background notice's exit,
+    // kavenda --quit, and without a tray the last close while no reminder is on.
     void quit();
 
     QWidget* window() const { return window_.get(); }

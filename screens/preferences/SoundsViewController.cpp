@@ -5,7 +5,8 @@
 #include "screens/WriteFailureLine.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SoundsViewController.h"
-#include "widgets/RowChoice.h"
+#include "widgets/AccessibleFactory.h"
+#include "widgets/ListRowsAccessible.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -49,6 +50,7 @@ SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPl
       alerts_(alerts), saveButton_(makeSaveButton(this)),
       shippedButton_(new QPushButton(QStringLiteral("صدای برنامه"), this))
 {
+    installAccessibleInterface<QListWidget, ListRowsAccessible>();
     layout_->setupUi(this);
     shippedButton_->setAccessibleName(shippedButton_->text());
     layout_->screenLayout->addWidget(shippedButton_);
@@ -56,7 +58,7 @@ SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPl
     layout_->btnOwnFile->setAccessibleName(layout_->btnOwnFile->text());
     choice_.load();
     buildRows();
-    onRowChosen(layout_->tbl, [this](int row) { didSelectRow(row); });
+    connect(layout_->tbl, &QListWidget::activated, this, [this](const QModelIndex& row) { didSelectRow(row.row()); });
     connect(saveButton_, &QPushButton::clicked, this, &SoundsViewController::save);
     connect(layout_->btnOwnFile, &QPushButton::clicked, this, &SoundsViewController::chooseOwnFile);
     connect(shippedButton_, &QPushButton::clicked, this, &SoundsViewController::useShippedRecording);
@@ -95,7 +97,7 @@ void SoundsViewController::showCheckmark()
         item->setText(label);
         item->setData(Qt::AccessibleTextRole, label);
         item->setIcon(checkmark(checked == row));
-        item->setData(Qt::AccessibleDescriptionRole, checked == row ? QStringLiteral("انتخاب شده") : QString());
+        item->setData(ListRowsAccessible::chosenRole, checked == row);
     }
     layout_->btnOwnFile->setEnabled(!copying_ && checked && choice_.acceptsOwnRecording(*checked));
     shippedButton_->setEnabled(!copying_ && checked && choice_.hasOwnRecording(*checked));
@@ -115,6 +117,16 @@ void SoundsViewController::save()
     saveButton_->setEnabled(choice_.saveEnabled());
 }
 
+void SoundsViewController::discard()
+{
+    choice_.stopPreview();
+    choice_.load();
+    for (int row = 0; row < SoundChoice::rowCount; ++row)
+        choice_.cellForRow(row);
+    showCheckmark();
+    saveButton_->setEnabled(choice_.saveEnabled());
+}
+
 void SoundsViewController::chooseOwnFile()
 {
     if (fileDialog_)
@@ -122,7 +134,6 @@ void SoundsViewController::chooseOwnFile()
     fileDialog_ = new QFileDialog(this, QStringLiteral("انتخاب فایل صدا"), QDir::homePath(),
                                   QStringLiteral("صدا (*.wav *.ogg *.oga *.opus *.mp3 *.flac *.m4a);;همه فایل ها (*)"));
     fileDialog_->setFileMode(QFileDialog::ExistingFile);
-    fileDialog_->setOption(QFileDialog::DontUseNativeDialog);
     fileDialog_->setAttribute(Qt::WA_DeleteOnClose);
     // Checking the file waits for the media machinery: only once the dialog is gone.
     connect(fileDialog_, &QFileDialog::fileSelected, this, &SoundsViewController::useOwnRecording,
