@@ -25,6 +25,8 @@ namespace {
 // The phone's status bar takes this much of the screen's height.
 constexpr int statusBarHeight = 20;
 constexpr int screenWidth = 320;
+// Qt tells of no tray that comes later: a panel started after the program is looked for.
+constexpr int trayWatchMilliseconds = 3000;
 
 }  // namespace
 
@@ -32,6 +34,14 @@ AppDelegate::AppDelegate(const AppServices& services, DesktopNotify desktopNotif
     : QObject(parent), services_(services), desktopNotify_(std::move(desktopNotify))
 {
     connect(qApp, &QCoreApplication::aboutToQuit, this, &AppDelegate::applicationWillTerminate);
+    trayWatch_.setInterval(trayWatchMilliseconds);
+    connect(&trayWatch_, &QTimer::timeout, this, [this] {
+        if (!QSystemTrayIcon::isSystemTrayAvailable())
+            return;
+        trayWatch_.stop();
+        makeTray();
+        emit trayAppeared();
+    });
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -60,9 +70,15 @@ bool AppDelegate::didFinishLaunchingWithOptions()
     presentation_->setRoot(root_);
     window_->installEventFilter(this);
     connect(new QShortcut(QKeySequence::Quit, window_.get()), &QShortcut::activated, this, &AppDelegate::quit);
-    makeTray();
-    // Without a tray a window kept hidden could never be reached.
-    if (startsInBackground_ && tray_)
+    // The program ends by quit() alone (see there).
+    QApplication::setQuitOnLastWindowClosed(false);
+    if (QSystemTrayIcon::isSystemTrayAvailable())
+        makeTray();
+    else
+        trayWatch_.start();
+    // Without a tray the reminders still come as desktop notifications; a second start from the
+    // menu shows the window.
+    if (startsInBackground_)
         inBackground_ = true;
     else
         showWindow();
@@ -103,20 +119,8 @@ void AppDelegate::applicationWillTerminate()
 {
 }
 
-void AppDelegate::quit()
-{
-    quitting_ = true;
-    QCoreApplication::quit();
-}
-
 void AppDelegate::makeTray()
 {
-    if (!QSystemTrayIcon::isSystemTrayAvailable()) {
-        QApplication::setQuitOnLastWindowClosed(true);
-        return;
-    }
-    // Reminders fire from the tray while the window is closed.
-    QApplication::setQuitOnLastWindowClosed(false);
     tray_ = new QSystemTrayIcon(QApplication::windowIcon(), this);
     tray_->setToolTip(QApplication::applicationDisplayName());
     auto* menu = new QMenu(window_.get());
@@ -129,6 +133,29 @@ void AppDelegate::makeTray()
             showWindow();
     });
     tray_->show();
+}
+
+void AppDelegate::quit()
+{
+    quitting_ = true;
+    emit quitRequested();
+    QCoreApplication::quit();
+}
+
+// Without a tray the closed window keeps the reminders going while any is on, and says so the
+// first time; with none on there is nothing to wait for. True when the window only hides.
+bool AppDelegate::closeWithoutTray()
+{
+    if (!MyNotification::initialize().anyReminderOn()) {
+        quit();
+        return false;
+    }
+    window_->hide();
+    if (!toldInBackground_ && tellInBackground_) {
+        toldInBackground_ = true;
+        tellInBackground_([this] { quit(); });
+    }
+    return true;
 }
 
 void AppDelegate::showWindow()
@@ -171,9 +198,15 @@ bool AppDelegate::eventFilter(QObject* watched, QEvent* event)
         return QObject::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::Close:
-        if (tray_ && !quitting_) {
+        if (quitting_)
+            break;
+        if (tray_) {
             event->ignore();
             window_->hide();
+            return true;
+        }
+        if (closeWithoutTray()) {
+            event->ignore();
             return true;
         }
         break;

@@ -4,6 +4,7 @@
 #include "platform/NotificationRecord.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -38,22 +39,37 @@ public:
     void applicationDidEnterBackground();
     void applicationWillTerminate();
 
-    // A start in the background stays in the tray until the window is asked for.
+    // A start in the background shows no window until it is asked for, tray or none.
     void setStartsInBackground(bool background) { startsInBackground_ = background; }
+    // Without a tray, what tells the person once that the closed window still announces; its
+    // argument ends the program.
+    void setTellRunsInBackground(std::function<void(std::function<void()>)> tell)
+    {
+        tellInBackground_ = std::move(tell);
+    }
     void showWindow();
-    // The one way out of the program: the tray's exit and Ctrl+Q.
+    // The one way out of the program: the tray's exit, Ctrl+Q, the background notice's exit,
+    // kavenda --quit, and without a tray the last close while no reminder is on.
     void quit();
 
     QWidget* window() const { return window_.get(); }
     MainViewController* rootViewController() const;
-    // Where the desktop has a tray, closing the window only hides it there; else null.
+    // Where the desktop has a tray, closing the window only hides it there; else null, until a
+    // tray appears (a panel that starts after the program).
     QSystemTrayIcon* tray() const { return tray_; }
+
+signals:
+    void trayAppeared();
+    // The program is about to end: by the tray, the background notice, --quit or a last close.
+    void quitRequested();
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
     void makeTray();
+    void watchForTray();
+    bool closeWithoutTray();
     void enterBackground();
     void enterForeground();
 
@@ -68,6 +84,9 @@ private:
     bool active_ = false;
     bool quitting_ = false;
     bool startsInBackground_ = false;
+    bool toldInBackground_ = false;
+    std::function<void(std::function<void()>)> tellInBackground_;
+    QTimer trayWatch_;
 };
 
 }  // namespace kavenda

@@ -7,8 +7,11 @@
 #include "app/StartupFailure.h"
 #include "app/TrayStatus.h"
 #include "calendar/DateTimePersian.h"
+#include "data/DataFolderCheck.h"
+#include "data/DataFolderLock.h"
 #include "data/DatabaseCheck.h"
 #include "data/MyDB.h"
+#include "desktop/AudioModule.h"
 #include "desktop/DesktopNotifier.h"
 #include "desktop/DesktopPaths.h"
 #include "desktop/DesktopUrlOpener.h"
@@ -55,7 +58,7 @@ bool needsWindow(int argc, char** argv)
     for (int i = 1; i < argc; ++i) {
         const QByteArray argument(argv[i]);
         if (argument == "--reminders" || argument == "--month" || argument == "--help" || argument == "-h"
-            || argument == "--help-all" || argument == "--version" || argument == "-v")
+            || argument == "--help-all" || argument == "--version" || argument == "-v" || argument == "--quit")
             return false;
     }
     return true;
@@ -67,6 +70,16 @@ QIcon iconOnDemand(const QString& file)
     QIcon icon;
     icon.addFile(file, QImageReader(file).size());
     return icon;
+}
+
+// A first start that could not make its folder's working copy leaves nothing behind: neither
+// the lock file nor the folder, when it made the folder.
+void takeBackFirstStart(const std::filesystem::path& folder, bool folderExisted)
+{
+    std::error_code ignored;
+    std::filesystem::remove(folder / DataFolderLock::fileName, ignored);
+    if (!folderExisted)
+        std::filesystem::remove(folder, ignored);
 }
 
 }  // namespace
@@ -105,7 +118,9 @@ int main(int argc, char** argv)
             "Print a Persian month with its holidays and occasions (this month unless YYYY-MM is given) and exit."));
     const QCommandLineOption background(QStringLiteral("background"),
                                         QStringLiteral("Start in the system tray without showing the window."));
-    parser.addOptions({now, tall, dataDir, screenshot, reminders, month, background});
+    const QCommandLineOption quit(QStringLiteral("quit"),
+                                  QStringLiteral("End the program running on the data folder."));
+    parser.addOptions({now, tall, dataDir, screenshot, reminders, month, background, quit});
     parser.addPositionalArgument(QStringLiteral("YYYY-MM"),
                                  QStringLiteral("With --month: the Persian year and month, such as 1392-01."),
                                  QStringLiteral("[YYYY-MM]"));
@@ -127,6 +142,12 @@ int main(int argc, char** argv)
     IcuPersianCalendar calendar;
     DesktopPaths paths(parser.isSet(dataDir) ? std::optional<std::filesystem::path>(parser.value(dataDir).toStdString())
                                              : std::nullopt);
+    if (parser.isSet(quit)) {
+        if (sendToRunningInstance(paths.documentsFolder(), "quit"))
+            return 0;
+        std::fprintf(stderr, "kavenda: no Kavenda runs on %s\n", paths.documentsFolder().c_str());
+        return 1;
+    }
     StderrLog log;
     QtNotificationService notifications(*clock);
     DeviceRandom random;
@@ -139,7 +160,15 @@ int main(int argc, char** argv)
     // The shipped file is checked before the working copy is made from it.
     if (const auto problem = shippedDatabaseProblem(paths.resourceFolder() / "Icons"))
         return reportStartupProblem(*problem, log);
+    std::error_code absent;
+    const bool folderExisted = std::filesystem::exists(paths.documentsFolder(), absent);
+    if (const auto problem = dataFolderProblem(paths.documentsFolder()))
+        return reportStartupProblem(*problem, log);
     MyDB::setUp(paths, log);
+    if (const std::error_code copyError = MyDB::initialize().copyError()) {
+        takeBackFirstStart(paths.documentsFolder(), folderExisted);
+        return reportStartupProblem(copyProblem(paths.documentsFolder(), copyError), log);
+    }
     if (const auto problem = workingCopyProblem(MyDB::initialize().dbPath()))
         return reportStartupProblem(*problem, log);
     MyNotification::setUp(*clock, calendar, notifications, random, log);
@@ -172,14 +201,21 @@ int main(int argc, char** argv)
     const QString icon = QString::fromStdString((paths.resourceFolder() / "kavenda.png").string());
     QApplication::setWindowIcon(iconOnDemand(icon));
 
-    ReminderSound sound(audio, paths, log);
+    ReminderSound sound(audio, paths, log, AudioModule::isPlayable);
     DesktopNotifier notifier(sound, paths);
     AppDelegate delegate(services, [&notifier](const NotificationRecord& record) { notifier.notify(record); });
     delegate.setStartsInBackground(parser.isSet(background));
+    delegate.setTellRunsInBackground([&notifier](std::function<void()> quitProgram) {
+        notifier.notice(
+            QStringLiteral(
+                "کاوندا در پس‌زمینه می‌ماند تا وقت‌های اذان و یادآوری‌ها را اعلام کند."),
+            QStringLiteral("خروج"), std::move(quitProgram));
+    });
     delegate.didFinishLaunchingWithOptions();
     alerts.setParent(delegate.window());
     notifier.setTray(delegate.tray());
     QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showWindow);
+    QObject::connect(&instance, &SingleInstance::quitRequested, &delegate, &AppDelegate::quit);
 
     if (parser.isSet(screenshot)) {
         const QString file = parser.value(screenshot);
@@ -193,7 +229,16 @@ int main(int argc, char** argv)
         return app->exec();
     }
 
-    TrayStatus status(delegate.tray(), sound, notifications, *clock, calendar);
+    // The tray's tooltip and menu; made when a tray appears where there was none at start.
+    std::unique_ptr<TrayStatus> status;
+    const auto makeStatus = [&] {
+        status = std::make_unique<TrayStatus>(delegate.tray(), sound, notifications, *clock, calendar);
+        notifier.setTray(delegate.tray());
+        status->refresh();
+    };
+    if (delegate.tray())
+        makeStatus();
+    QObject::connect(&delegate, &AppDelegate::trayAppeared, &delegate, makeStatus);
     notifications.setDelivery([&](const NotificationRecord& record) {
         const int ticket = sound.play(record);
         const QMessageBox* before = alerts.current();
@@ -201,7 +246,8 @@ int main(int argc, char** argv)
         // The alert's button stops the sound of its own reminder.
         if (QMessageBox* box = alerts.current(); box && box != before)
             QObject::connect(box, &QDialog::finished, box, [&sound, ticket] { sound.stop(ticket); });
-        status.refresh();
+        if (status)
+            status->refresh();
     });
     std::string today = DateTimePersian::init(*clock, calendar).getPersianDate();
     Replanning replanning(
@@ -213,7 +259,8 @@ int main(int argc, char** argv)
             if (root->localDtp().getPersianDate() == today)
                 root->refresh();
             today = DateTimePersian::init(*clock, calendar).getPersianDate();
-            status.refresh();
+            if (status)
+                status->refresh();
         });
 
     return app->exec();

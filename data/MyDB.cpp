@@ -1,5 +1,6 @@
 #include "data/MyDB.h"
 
+#include "data/DataFolderLock.h"
 #include "data/NameMatching.h"
 #include "platform/Log.h"
 #include "platform/Paths.h"
@@ -7,6 +8,7 @@
 
 #include <sqlite3.h>
 
+#include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
 #include <memory>
@@ -19,6 +21,8 @@ namespace kavenda {
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr int busyMilliseconds = 5000;
 
 std::string columnText(sqlite3_stmt* statement, int column)
 {
@@ -36,6 +40,48 @@ std::string convertedValue(sqlite3_stmt* statement, int column)
     default:
         return columnText(statement, column);
     }
+}
+
+// A plain copy that keeps the cause of a failure (the library's copy says only "I/O error" for a
+// full disk).
+std::error_code copyFile(const fs::path& from, const fs::path& to)
+{
+    const int source = ::open(from.c_str(), O_RDONLY | O_CLOEXEC);
+    if (source < 0)
+        return {errno, std::generic_category()};
+    const int target = ::open(to.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (target < 0) {
+        const std::error_code error(errno, std::generic_category());
+        ::close(source);
+        return error;
+    }
+    std::error_code error;
+    char buffer[64 * 1024];
+    for (;;) {
+        const ssize_t read = ::read(source, buffer, sizeof buffer);
+        if (read < 0 && errno == EINTR)
+            continue;
+        if (read <= 0) {
+            if (read < 0)
+                error.assign(errno, std::generic_category());
+            break;
+        }
+        ssize_t written = 0;
+        while (written < read && !error) {
+            const ssize_t now = ::write(target, buffer + written, static_cast<std::size_t>(read - written));
+            if (now < 0 && errno != EINTR)
+                error.assign(errno, std::generic_category());
+            written += now > 0 ? now : 0;
+        }
+        if (error)
+            break;
+    }
+    if (!error && ::fsync(target) != 0)
+        error.assign(errno, std::generic_category());
+    if (::close(target) != 0 && !error)
+        error.assign(errno, std::generic_category());
+    ::close(source);
+    return error;
 }
 
 bool syncToDisk(const fs::path& path)
@@ -72,9 +118,12 @@ MyDB::MyDB(std::string fileName, const Paths& paths, Log& log)
     : paths_(paths), log_(log), fileName_(std::move(fileName))
 {
     dbPath_ = getDBPath();
+    // Two first starts at once: one copies, the other finds the copy made.
+    std::error_code error;
+    fs::create_directories(fs::path(dbPath_).parent_path(), error);
+    const DataFolderLock lock(fs::path(dbPath_).parent_path());
     removeLeftoverCopies();
     // A file of no bytes is what a failed copy of old left behind: it holds nothing to keep.
-    std::error_code error;
     if (!isExist() || fs::file_size(dbPath_, error) == 0)
         copyDB();
 }
@@ -95,7 +144,8 @@ std::string MyDB::partialPrefix() const
     return fileName_ + ".partial-";
 }
 
-// Copies that a killed process left under their temporary names.
+// Copies that a killed process left under their temporary names; only the holder of the data
+// folder's lock copies, so none of them is still being written.
 void MyDB::removeLeftoverCopies() const
 {
     std::error_code error;
@@ -118,15 +168,17 @@ bool MyDB::copyDB()
     const fs::path target(dbPath_);
     fs::create_directories(target.parent_path(), error);
     const fs::path partial = target.parent_path() / (partialPrefix() + std::to_string(::getpid()));
-    const bool copied =
-        fs::copy_file(paths_.resourceFolder() / fileName_, partial, fs::copy_options::overwrite_existing, error)
-        && syncToDisk(partial);
+    error = copyFile(paths_.resourceFolder() / fileName_, partial);
+    const bool copied = !error;
     if (copied)
         fs::rename(partial, target, error);
     if (!copied || error) {
-        fs::remove(partial, error);
+        copyError_ = error;
+        std::error_code ignored;
+        fs::remove(partial, ignored);
         return false;
     }
+    copyError_.clear();
     syncToDisk(target.parent_path());
     return true;
 }
@@ -135,20 +187,55 @@ int MyDB::loadDB()
 {
     close();
     const int result = sqlite3_open(dbPath_.c_str(), &database_);
-    if (result == SQLITE_OK)
+    if (result == SQLITE_OK) {
+        // Another writer (a second program, the yearly top-up) holds the file a moment: wait.
+        sqlite3_busy_timeout(database_, busyMilliseconds);
         installNameMatching(database_);
+    }
     return result;
+}
+
+// Inside a transaction the held connection serves every call.
+bool MyDB::open()
+{
+    return held_ || loadDB() == SQLITE_OK;
 }
 
 void MyDB::close()
 {
+    if (held_)
+        return;
     sqlite3_close(database_);
     database_ = nullptr;
 }
 
+bool MyDB::runOnHeld(const char* statement)
+{
+    return sqlite3_exec(database_, statement, nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
+bool MyDB::inTransaction(const std::function<bool()>& work)
+{
+    if (held_)
+        return work();
+    // The write lock is taken at once, so no other writer slips in between the statements.
+    if (loadDB() != SQLITE_OK || !runOnHeld("BEGIN IMMEDIATE")) {
+        close();
+        return false;
+    }
+    held_ = true;
+    bool kept = work();
+    kept = kept && runOnHeld("COMMIT");
+    if (!kept)
+        runOnHeld("ROLLBACK");
+    held_ = false;
+    close();
+    return kept;
+}
+
 RowSet MyDB::run(std::string_view sql)
 {
-    if (loadDB() != SQLITE_OK) {
+    if (!open()) {
         // sqlite3_open hands back a handle even when it fails; it is only released.
         close();
         return {};
@@ -185,7 +272,7 @@ RowSet MyDB::Execute(std::string_view sql)
 
 bool MyDB::ExecuteNonQuery(std::string_view sql)
 {
-    loadDB();
+    open();
     const std::string text(sql);
     sqlite3_stmt* statement = nullptr;
     if (sqlite3_prepare_v2(database_, text.c_str(), -1, &statement, nullptr) != SQLITE_OK)

@@ -2,9 +2,11 @@
 
 #include "data/RowSet.h"
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <system_error>
 #include <vector>
 
 struct sqlite3;
@@ -32,6 +34,13 @@ public:
     bool copyDB();
     int loadDB();
 
+    // Runs the statements of work on one connection in one transaction: all of them stay, or,
+    // when work returns false or the process dies half-way, none. False when nothing was kept.
+    bool inTransaction(const std::function<bool()>& work);
+
+    // Why the working copy could not be made at start (the copy's error); none when it was.
+    const std::error_code& copyError() const { return copyError_; }
+
     RowSet run(std::string_view sql);
     RowSet Execute(std::string_view sql);
     bool ExecuteNonQuery(std::string_view sql);
@@ -44,7 +53,9 @@ public:
     const std::vector<std::string>& columnList() const { return columnList_; }
 
 private:
+    bool open();
     void close();
+    bool runOnHeld(const char* statement);
     std::string partialPrefix() const;
     void removeLeftoverCopies() const;
 
@@ -53,6 +64,8 @@ private:
     std::string fileName_;
     std::string dbPath_;
     sqlite3* database_ = nullptr;
+    bool held_ = false;  // a transaction keeps the connection open between calls
+    std::error_code copyError_;
     std::vector<std::string> columnList_;
 };
 

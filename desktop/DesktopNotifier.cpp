@@ -17,6 +17,7 @@ const QString service = QStringLiteral("org.freedesktop.Notifications");
 const QString path = QStringLiteral("/org/freedesktop/Notifications");
 const QString interface = QStringLiteral("org.freedesktop.Notifications");
 const QString stopAction = QStringLiteral("stop");
+const QString otherAction = QStringLiteral("act");
 constexpr uchar normalUrgency = 1;
 
 }  // namespace
@@ -38,14 +39,35 @@ void DesktopNotifier::setTray(QSystemTrayIcon* tray)
 
 void DesktopNotifier::notify(const NotificationRecord& record)
 {
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    if (!bus.isConnected()) {
-        showMessage(record);
-        return;
-    }
     QStringList actions;
     if (MyNotification::isCall(record.alertBody))
         actions << stopAction << QStringLiteral("توقف");
+    const int ticket = sound_.current();
+    const QString body = QString::fromStdString(record.alertBody);
+    send(
+        body, actions,
+        [this, ticket](uint id) {
+            if (ticket != 0)
+                soundOf_[id] = ticket;
+        },
+        [this, body] { showMessage(body); });
+}
+
+void DesktopNotifier::notice(const QString& body, const QString& actionLabel, std::function<void()> onAction)
+{
+    send(
+        body, {otherAction, actionLabel}, [this, onAction](uint id) { actionOf_[id] = onAction; },
+        [this, body] { showMessage(body); });
+}
+
+void DesktopNotifier::send(const QString& body, const QStringList& actions, std::function<void(uint)> shown,
+                           std::function<void()> unanswered)
+{
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    if (!bus.isConnected()) {
+        unanswered();
+        return;
+    }
     const QVariantMap hints{
         {QStringLiteral("desktop-entry"), QStringLiteral("kavenda")},
         {QStringLiteral("urgency"), QVariant::fromValue(normalUrgency)},
@@ -55,39 +77,37 @@ void DesktopNotifier::notify(const NotificationRecord& record)
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, interface, QStringLiteral("Notify"));
     call << QGuiApplication::applicationDisplayName() << uint(0)
          << QString::fromStdString((paths_.resourceFolder() / "kavenda.png").string())
-         << QGuiApplication::applicationDisplayName() << QString::fromStdString(record.alertBody) << actions << hints
-         << int(-1);
-    const int ticket = sound_.current();
+         << QGuiApplication::applicationDisplayName() << body << actions << hints << int(-1);
     auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, record, ticket](QDBusPendingCallWatcher* done) {
-        done->deleteLater();
-        const QDBusPendingReply<uint> reply = *done;
-        if (reply.isError()) {
-            showMessage(record);
-            return;
-        }
-        if (ticket != 0)
-            soundOf_[reply.value()] = ticket;
-    });
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [shown = std::move(shown), unanswered = std::move(unanswered)](QDBusPendingCallWatcher* done) {
+                done->deleteLater();
+                const QDBusPendingReply<uint> reply = *done;
+                if (reply.isError())
+                    unanswered();
+                else
+                    shown(reply.value());
+            });
 }
 
 void DesktopNotifier::actionInvoked(uint id, const QString& action)
 {
-    const auto found = soundOf_.find(id);
-    if (action == stopAction && found != soundOf_.end())
+    if (const auto found = soundOf_.find(id); action == stopAction && found != soundOf_.end())
         sound_.stop(found->second);
+    if (const auto found = actionOf_.find(id); action == otherAction && found != actionOf_.end())
+        found->second();
 }
 
 void DesktopNotifier::notificationClosed(uint id, uint)
 {
     soundOf_.erase(id);
+    actionOf_.erase(id);
 }
 
-void DesktopNotifier::showMessage(const NotificationRecord& record)
+void DesktopNotifier::showMessage(const QString& body)
 {
     if (tray_ && QSystemTrayIcon::isSystemTrayAvailable() && QSystemTrayIcon::supportsMessages())
-        tray_->showMessage(QGuiApplication::applicationDisplayName(), QString::fromStdString(record.alertBody),
-                           tray_->icon(), messageMilliseconds);
+        tray_->showMessage(QGuiApplication::applicationDisplayName(), body, tray_->icon(), messageMilliseconds);
 }
 
 }  // namespace kavenda

@@ -8,6 +8,7 @@
 #include <QPointer>
 #include <QSystemTrayIcon>
 
+#include <functional>
 #include <map>
 
 namespace kavenda {
@@ -24,18 +25,23 @@ public:
 
     void setTray(QSystemTrayIcon* tray);
     void notify(const NotificationRecord& record);
+    // A notification of the program's own (not a reminder) with one action.
+    void notice(const QString& body, const QString& actionLabel, std::function<void()> onAction);
 
 private slots:
     void actionInvoked(uint id, const QString& action);
     void notificationClosed(uint id, uint reason);
 
 private:
-    void showMessage(const NotificationRecord& record);
+    void send(const QString& body, const QStringList& actions, std::function<void(uint)> shown,
+              std::function<void()> unanswered);
+    void showMessage(const QString& body);
 
     ReminderSound& sound_;
     const Paths& paths_;
     QPointer<QSystemTrayIcon> tray_;
     std::map<uint, int> soundOf_;  // notification id, ticket of its sound
+    std::map<uint, std::function<void()>> actionOf_;  // notification id, what its action does
 };
 
 }  // namespace kavenda

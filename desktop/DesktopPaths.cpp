@@ -1,8 +1,8 @@
 #include "desktop/DesktopPaths.h"
 
 #include <QCoreApplication>
-#include <QStandardPaths>
 
+#include <cstdlib>
 #include <system_error>
 
 namespace kavenda {
@@ -27,12 +27,22 @@ std::filesystem::path DesktopPaths::findResources(const std::filesystem::path& p
     return installed;
 }
 
+std::filesystem::path DesktopPaths::userDataFolder()
+{
+    // A relative XDG_DATA_HOME is invalid and ignored, as the XDG rules say.
+    const char* dataHome = std::getenv("XDG_DATA_HOME");
+    if (dataHome && std::filesystem::path(dataHome).is_absolute())
+        return std::filesystem::path(dataHome) / "kavenda";
+    const char* home = std::getenv("HOME");
+    if (home && std::filesystem::path(home).is_absolute())
+        return std::filesystem::path(home) / ".local" / "share" / "kavenda";
+    return {};
+}
+
 DesktopPaths::DesktopPaths(std::optional<std::filesystem::path> dataDir)
-    : documents_(dataDir ? *dataDir : fromQt(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation))),
+    : documents_(dataDir ? *dataDir : userDataFolder()),
       resources_(findResources(fromQt(QCoreApplication::applicationDirPath()), KAVENDA_INSTALLED_RESOURCES))
 {
-    std::error_code error;
-    std::filesystem::create_directories(documents_, error);
 }
 
 std::filesystem::path DesktopPaths::documentsFolder() const

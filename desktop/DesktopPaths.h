@@ -7,8 +7,8 @@
 namespace kavenda {
 
 // The documents folder is the one given on the command line, else the user's data folder
-// (created when missing). Resources are found relative to the executable: installed in
-// <prefix>/share/kavenda, else in the build tree (<build>/app/kavenda and <build>/resources).
+// (made at start, where the reasons it cannot be are told). Resources are found relative to the executable: installed
+// in <prefix>/share/kavenda, else in the build tree (<build>/app/kavenda and <build>/resources).
 class DesktopPaths final : public Paths {
 public:
     explicit DesktopPaths(std::optional<std::filesystem::path> dataDir = std::nullopt);
@@ -19,6 +19,9 @@ public:
     // that a program copied alone names the files it misses where they belong.
     static std::filesystem::path findResources(const std::filesystem::path& programFolder,
                                                const std::filesystem::path& installedRelative);
+
+    // $XDG_DATA_HOME/kavenda, else ~/.local/share/kavenda; empty without an absolute HOME.
+    static std::filesystem::path userDataFolder();
 
     std::filesystem::path documentsFolder() const override;
     std::filesystem::path resourceFolder() const override;

@@ -207,6 +207,16 @@ bool MyNotification::isCall(std::string_view alertBody)
     return alertBody.starts_with(lead);
 }
 
+bool MyNotification::anyReminderOn()
+{
+    const RowSet settings = db_.Execute(sql::allSettings);
+    for (int item = 0; item < typeCount; ++item) {
+        if (intValue(valueOf(settings, 0, settingName(item))) != 0)
+            return true;
+    }
+    return valueOf(settings, 0, settingName(7)).find(':') != std::string::npos;
+}
+
 void MyNotification::updateCalendarEvents(std::string_view time)
 {
     // "0", and anything else that is not a time with a colon, means the announcements are off.

@@ -30,6 +30,8 @@ public:
                    Random& random, Log& log);
 
     void update();
+    // Whether the settings ask for any reminder at all: a call, a warning or the occasions.
+    bool anyReminderOn();
     void cancelAll();
     // The moment of a stored standard time on the day of a date key, with that day's summer hour.
     Instant getDate(std::string_view dateKey, std::string_view time) const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string_view>
 
 namespace kavenda {
@@ -13,5 +14,7 @@ std::filesystem::path ownSoundsFolder(const Paths& paths);
 // The file to play for a sound name: the person's own recording when there is one, else the
 // program's.
 std::filesystem::path soundFile(const Paths& paths, std::string_view fileName);
+// The person's own recording for a sound name, when there is one.
+std::optional<std::filesystem::path> ownRecording(const Paths& paths, std::string_view fileName);
 
 }  // namespace kavenda

@@ -31,17 +31,19 @@ std::string ChosenCities::nameAt(int row) const
     return stateNameAt(datasource_, static_cast<std::size_t>(row));
 }
 
-void ChosenCities::remove(int row)
+bool ChosenCities::remove(int row)
 {
     if (row < 0 || row >= count())
-        return;
+        return true;
     const int id = stateIdAt(row);
-    db_.ExecuteNonQuery(formatSql(sql::deleteChosenCity, {id}));
-    if (id >= firstUserCityId) {
-        db_.ExecuteNonQuery(formatSql(sql::deletePlace, {id}));
-        db_.ExecuteNonQuery(formatSql(sql::deletePlaceTimes, {id}));
-    }
+    const bool written = db_.inTransaction([this, id] {
+        return db_.ExecuteNonQuery(formatSql(sql::deleteChosenCity, {id}))
+            && (id < firstUserCityId
+                || (db_.ExecuteNonQuery(formatSql(sql::deletePlace, {id}))
+                    && db_.ExecuteNonQuery(formatSql(sql::deletePlaceTimes, {id}))));
+    });
     updateDataSource();
+    return written;
 }
 
 int ChosenCities::targetRow(int proposed) const
@@ -49,10 +51,10 @@ int ChosenCities::targetRow(int proposed) const
     return std::clamp(proposed, 0, std::max(count() - 1, 0));
 }
 
-void ChosenCities::move(int from, int to)
+bool ChosenCities::move(int from, int to)
 {
     if (from < 0 || from >= count())
-        return;
+        return true;
     to = targetRow(to);
     const auto first = datasource_.begin();
     if (to > from)
@@ -60,8 +62,17 @@ void ChosenCities::move(int from, int to)
     else if (to < from)
         std::rotate(first + to, first + from, first + from + 1);
     // Every row is renumbered, moved or not, so earlier gaps in the numbering disappear.
-    for (int k = 0; k < count(); ++k)
-        db_.ExecuteNonQuery(formatSql(sql::updateOrdering, {k, stateIdAt(k)}));
+    const bool written = db_.inTransaction([this] {
+        for (int k = 0; k < count(); ++k) {
+            if (!db_.ExecuteNonQuery(formatSql(sql::updateOrdering, {k, stateIdAt(k)})))
+                return false;
+        }
+        return true;
+    });
+    // The list shows what is stored.
+    if (!written)
+        updateDataSource();
+    return written;
 }
 
 bool ChosenCities::appear()

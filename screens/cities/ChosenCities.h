@@ -38,11 +38,14 @@ public:
     // Every row is shown: at least seven rows' worth, longer lists scroll in their holder.
     int shownRows() const { return std::max(count(), minimumRows); }
 
-    void remove(int row);
+    // Takes a city off the list (and a city of the user's own out of the database); false when
+    // the database refused, and the list then shows what is stored.
+    bool remove(int row);
     // A drop past the end lands on the last row.
     int targetRow(int proposed) const;
-    // Moves a row and renumbers every chosen city 0..n-1 in list order; the list is not re-read.
-    void move(int from, int to);
+    // Moves a row and renumbers every chosen city 0..n-1 in list order; the list is not re-read
+    // unless the database refused (false), when it shows the stored order again.
+    bool move(int from, int to);
 
     // Each appearance re-reads the list; true when the search should open by itself, which
     // happens only on the first appearance and only while no city is chosen.

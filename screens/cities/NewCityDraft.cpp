@@ -40,25 +40,20 @@ bool NewCityDraft::save()
 {
     if (!validate())
         return false;
-    const int id = insertPlace();
-    if (id == 0)
-        return false;
-
-    std::array<std::string, offsetCount> minutes;
-    std::transform(difArray_.begin(), difArray_.end(), minutes.begin(), [](int v) { return std::to_string(v); });
-    if (!db_.ExecuteNonQuery(
-            formatSql(sql::insertOffsetRow,
-                      {id, offsetRowDate, minutes[0], minutes[1], minutes[2], minutes[3], minutes[4], minutes[5]}))) {
-        removePlace(id, false);
-        return false;
-    }
-
-    const int count = intValue(db_.ExecuteScaler(sql::chosenCityCountUnnamed).value_or("0"));
-    if (!db_.ExecuteNonQuery(formatSql(sql::insertChosenCity, {id, count + 1}))) {
-        removePlace(id, true);
-        return false;
-    }
-    return true;
+    // One transaction: a failed statement or a killed process leaves the whole city or none.
+    return db_.inTransaction([this] {
+        const int id = insertPlace();
+        if (id == 0)
+            return false;
+        std::array<std::string, offsetCount> minutes;
+        std::transform(difArray_.begin(), difArray_.end(), minutes.begin(), [](int v) { return std::to_string(v); });
+        if (!db_.ExecuteNonQuery(
+                formatSql(sql::insertOffsetRow,
+                          {id, offsetRowDate, minutes[0], minutes[1], minutes[2], minutes[3], minutes[4], minutes[5]})))
+            return false;
+        const int count = intValue(db_.ExecuteScaler(sql::chosenCityCountUnnamed).value_or("0"));
+        return db_.ExecuteNonQuery(formatSql(sql::insertChosenCity, {id, count + 1}));
+    });
 }
 
 // The new place's identifier, or 0 when it was not written (or cannot be told, and so cannot
@@ -70,13 +65,6 @@ int NewCityDraft::insertPlace()
         return 0;
     // The database numbers a new place above every other, so the largest identifier is ours.
     return intValue(db_.ExecuteScaler(sql::highestPlaceId).value_or("0"));
-}
-
-void NewCityDraft::removePlace(int id, bool withTimes)
-{
-    db_.ExecuteNonQuery(formatSql(sql::deletePlace, {id}));
-    if (withTimes)
-        db_.ExecuteNonQuery(formatSql(sql::deletePlaceTimes, {id}));
 }
 
 }  // namespace kavenda

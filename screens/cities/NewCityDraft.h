@@ -36,13 +36,12 @@ public:
     // Save may run: a name ("" only is refused) and a province.
     bool validate() const { return !cityName_.empty() && provinceID_ != 0; }
 
-    // Writes the place, its offset row and its place at the end of the chosen cities. A write
-    // that fails stops it and takes back what was written before; false then.
+    // Writes the place, its offset row and its place at the end of the chosen cities, all or
+    // nothing; false when nothing was written.
     bool save();
 
 private:
     int insertPlace();
-    void removePlace(int id, bool withTimes);
 
     MyDB& db_;
     std::string cityName_;

@@ -1,6 +1,7 @@
 #include "screens/cities/SelectionController.h"
 
 #include "platform/UrlOpener.h"
+#include "screens/WriteFailureLine.h"
 #include "screens/cities/CitySearch.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
@@ -148,14 +149,16 @@ void SelectionController::showCities()
 
 void SelectionController::remove(int row)
 {
-    cities_.remove(row);
+    const bool written = cities_.remove(row);
     showCities();
+    showWriteResult(this, written);
 }
 
 void SelectionController::move(int from, int to)
 {
-    cities_.move(from, to);
+    const bool written = cities_.move(from, to);
     tbl_->setCities(cities_);
+    showWriteResult(this, written);
 }
 
 // Refused while no city is chosen, as the button is, and while a tab keeps unsaved changes.

@@ -1,6 +1,7 @@
 #include "screens/preferences/HistoryViewController.h"
 
 #include "platform/Paths.h"
+#include "screens/WriteFailureLine.h"
 #include "screens/preferences/Fade.h"
 #include "screens/preferences/SaveButton.h"
 #include "text/Utility.h"
@@ -111,7 +112,7 @@ void HistoryViewController::pickerValueChanged()
 
 void HistoryViewController::save()
 {
-    occasionTime_.save();
+    showWriteResult(this, occasionTime_.save());
     saveButton_->setEnabled(occasionTime_.saveEnabled());
 }
 

@@ -43,13 +43,15 @@ void OccasionTime::pickerValueChanged(int hour, int minute)
     currentDate_ = format("%02d:%02d", {hour_, minute_});
 }
 
-void OccasionTime::save()
+bool OccasionTime::save()
 {
     currentDate_ = shownValue();
     if (log_)
         log_->line(currentDate_);
-    db_.ExecuteNonQuery(formatSql(sql::updateOccasionTime, {currentDate_}));
+    if (!db_.ExecuteNonQuery(formatSql(sql::updateOccasionTime, {currentDate_})))
+        return false;
     selectedDate_ = currentDate_;
+    return true;
 }
 
 }  // namespace kavenda

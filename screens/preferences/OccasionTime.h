@@ -27,7 +27,8 @@ public:
     void valueChanged(bool on);
     void pickerValueChanged(int hour, int minute);
     bool saveEnabled() const { return currentDate_ != selectedDate_; }
-    void save();
+    // False when the database refused: the shown time stays, to be saved again.
+    bool save();
 
 private:
     std::string shownValue() const;

@@ -94,10 +94,12 @@ std::string ReminderSettings::updateStatement() const
     return format(sql::updateSettings, {std::string_view(assignments).substr(1)});
 }
 
-void ReminderSettings::save()
+bool ReminderSettings::save()
 {
-    db_.ExecuteNonQuery(updateStatement());
+    if (!db_.ExecuteNonQuery(updateStatement()))
+        return false;
     saveEnabled_ = false;
+    return true;
 }
 
 }  // namespace kavenda

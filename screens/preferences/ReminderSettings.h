@@ -45,7 +45,8 @@ public:
     bool saveEnabled() const { return saveEnabled_; }
     // The one statement that writes Item0..Item5 as the screen holds them.
     std::string updateStatement() const;
-    void save();
+    // False when the database refused: the values stay, to be saved again.
+    bool save();
 
     const std::array<int, itemCount>& notifications() const { return notifications_; }
 

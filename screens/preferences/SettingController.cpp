@@ -1,6 +1,7 @@
 #include "screens/preferences/SettingController.h"
 
 #include "data/MyDB.h"
+#include "screens/WriteFailureLine.h"
 #include "screens/preferences/Fade.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SettingController.h"
@@ -186,7 +187,7 @@ void SettingController::sliderChanged(int index, int position)
 
 void SettingController::save()
 {
-    settings_.save();
+    showWriteResult(this, settings_.save());
     saveButton_->setEnabled(settings_.saveEnabled());
 }
 

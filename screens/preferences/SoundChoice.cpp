@@ -72,14 +72,16 @@ void SoundChoice::didSelectRow(int row)
     saveEnabled_ = row != selected_;
 }
 
-void SoundChoice::save()
+bool SoundChoice::save()
 {
     if (!selectedPath_)
-        return;
-    db_.ExecuteNonQuery(format(sql::updateSoundChoice, {*selectedPath_}));
+        return true;
+    if (!db_.ExecuteNonQuery(format(sql::updateSoundChoice, {*selectedPath_})))
+        return false;
     selected_ = *selectedPath_;
     saveEnabled_ = false;
     stopPreview();
+    return true;
 }
 
 void SoundChoice::stopPreview()
@@ -89,19 +91,43 @@ void SoundChoice::stopPreview()
     hasPlayer_ = false;
 }
 
-SoundChoice::OwnRecording SoundChoice::useOwnRecording(int row, const std::filesystem::path& source,
-                                                       const PlayableCheck& isPlayable)
+std::string SoundChoice::rowLabel(int row) const
+{
+    return hasOwnRecording(row) ? label(row) + " (صدای شما)" : label(row);
+}
+
+bool SoundChoice::hasOwnRecording(int row) const
+{
+    return acceptsOwnRecording(row) && ownRecording(paths_, fileName(row)).has_value();
+}
+
+std::filesystem::path SoundChoice::ownFolder() const
+{
+    return ownSoundsFolder(paths_);
+}
+
+std::optional<SoundChoice::OwnRecording> SoundChoice::refusal(int row, const std::filesystem::path& source,
+                                                              const PlayableCheck& isPlayable) const
 {
     if (!acceptsOwnRecording(row))
         return OwnRecording::notCopied;
+    std::error_code error;
+    const std::uintmax_t size = std::filesystem::file_size(source, error);
+    if (!error && size > largestOwnRecording)
+        return OwnRecording::tooLarge;
     if (!isPlayable(source))
         return OwnRecording::notPlayable;
+    return std::nullopt;
+}
+
+SoundChoice::OwnRecording SoundChoice::copyOwnRecording(const std::filesystem::path& ownFolder, int row,
+                                                        const std::filesystem::path& source)
+{
     // A copy that stops halfway must not replace a recording that worked.
-    const std::filesystem::path folder = ownSoundsFolder(paths_);
-    const std::filesystem::path target = folder / fileName(row);
-    const std::filesystem::path partial = folder / (fileName(row) + ".part");
+    const std::filesystem::path target = ownFolder / fileName(row);
+    const std::filesystem::path partial = ownFolder / (fileName(row) + ".part");
     std::error_code error;
-    std::filesystem::create_directories(folder, error);
+    std::filesystem::create_directories(ownFolder, error);
     if (!error)
         std::filesystem::copy_file(source, partial, std::filesystem::copy_options::overwrite_existing, error);
     if (!error)
@@ -111,6 +137,23 @@ SoundChoice::OwnRecording SoundChoice::useOwnRecording(int row, const std::files
         return OwnRecording::notCopied;
     }
     return OwnRecording::copied;
+}
+
+SoundChoice::OwnRecording SoundChoice::useOwnRecording(int row, const std::filesystem::path& source,
+                                                       const PlayableCheck& isPlayable)
+{
+    if (const std::optional<OwnRecording> refused = refusal(row, source, isPlayable))
+        return *refused;
+    return copyOwnRecording(ownFolder(), row, source);
+}
+
+bool SoundChoice::useShippedRecording(int row)
+{
+    if (!hasOwnRecording(row))
+        return true;
+    stopPreview();
+    std::error_code error;
+    return std::filesystem::remove(ownFolder() / fileName(row), error) && !error;
 }
 
 }  // namespace kavenda

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <filesystem>
 #include <functional>
 #include <optional>
@@ -19,7 +20,10 @@ public:
     // A random recording per notification: nothing to preview, no file of its own.
     static constexpr int randomRow = 9;
 
-    enum class OwnRecording { copied, notPlayable, notCopied };
+    // A person's file larger than this is no recording of a call.
+    static constexpr std::uintmax_t largestOwnRecording = 50 * 1024 * 1024;
+
+    enum class OwnRecording { copied, notPlayable, notCopied, tooLarge };
     using PlayableCheck = std::function<bool(const std::filesystem::path&)>;
 
     // Without an audio player nothing is previewed.
@@ -27,6 +31,8 @@ public:
 
     void load();
     static const std::string& label(int row);
+    // The label, marked where the person's own recording takes the row's place.
+    std::string rowLabel(int row) const;
     static std::string fileName(int row);
 
     int selected() const { return selected_; }
@@ -36,14 +42,25 @@ public:
     // Moves the checkmark, stops the preview that plays and starts the row's own.
     void didSelectRow(int row);
     bool saveEnabled() const { return saveEnabled_; }
-    void save();
+    // False when the database refused: the choice stays, to be saved again.
+    bool save();
     // Leaving the screen.
     void stopPreview();
 
     bool acceptsOwnRecording(int row) const { return row >= 0 && row < rowCount && row != randomRow; }
-    // Copies a playable file over the row's recording in the data folder; a file that cannot
-    // be played leaves everything as it was.
+    bool hasOwnRecording(int row) const;
+    // Why a file cannot become the row's recording (too large, not playable); none when it can.
+    std::optional<OwnRecording> refusal(int row, const std::filesystem::path& source,
+                                        const PlayableCheck& isPlayable) const;
+    // Copies a file over the row's recording in the data folder; a copy that fails leaves the
+    // earlier one. Touches nothing but files, so it may run on a worker thread.
+    static OwnRecording copyOwnRecording(const std::filesystem::path& ownFolder, int row,
+                                         const std::filesystem::path& source);
+    std::filesystem::path ownFolder() const;
+    // The refusal, else the copy, at once.
     OwnRecording useOwnRecording(int row, const std::filesystem::path& source, const PlayableCheck& isPlayable);
+    // The program's recording plays again for the row; false when the own file stays.
+    bool useShippedRecording(int row);
 
 private:
     MyDB& db_;

@@ -2,6 +2,7 @@
 
 #include "desktop/AudioModule.h"
 #include "platform/Alerts.h"
+#include "screens/WriteFailureLine.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SoundsViewController.h"
 #include "widgets/AccessibleFactory.h"
@@ -10,9 +11,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QFutureWatcher>
 #include <QHideEvent>
 #include <QListWidget>
 #include <QPainter>
+#include <QtConcurrent/QtConcurrentRun>
 
 namespace kavenda {
 
@@ -44,10 +47,13 @@ std::filesystem::path localPath(const QString& file)
 SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPlayer* audio, Alerts* alerts,
                                            QWidget* parent)
     : QWidget(parent), layout_(std::make_unique<::Ui::SoundsViewController>()), choice_(db, paths, audio),
-      alerts_(alerts), saveButton_(makeSaveButton(this))
+      alerts_(alerts), saveButton_(makeSaveButton(this)),
+      shippedButton_(new QPushButton(QStringLiteral("صدای برنامه"), this))
 {
     installAccessibleInterface<QListWidget, ListRowsAccessible>();
     layout_->setupUi(this);
+    shippedButton_->setAccessibleName(shippedButton_->text());
+    layout_->screenLayout->addWidget(shippedButton_);
     layout_->tbl->setIconSize(QSize(markSize, markSize));
     layout_->btnOwnFile->setAccessibleName(layout_->btnOwnFile->text());
     choice_.load();
@@ -55,6 +61,7 @@ SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPl
     connect(layout_->tbl, &QListWidget::activated, this, [this](const QModelIndex& row) { didSelectRow(row.row()); });
     connect(saveButton_, &QPushButton::clicked, this, &SoundsViewController::save);
     connect(layout_->btnOwnFile, &QPushButton::clicked, this, &SoundsViewController::chooseOwnFile);
+    connect(shippedButton_, &QPushButton::clicked, this, &SoundsViewController::useShippedRecording);
 }
 
 SoundsViewController::~SoundsViewController() = default;
@@ -72,9 +79,7 @@ QPushButton* SoundsViewController::ownFileButton() const
 void SoundsViewController::buildRows()
 {
     for (int row = 0; row < SoundChoice::rowCount; ++row) {
-        const QString label = QString::fromStdString(SoundChoice::label(row));
-        auto* item = new QListWidgetItem(label, layout_->tbl);
-        item->setData(Qt::AccessibleTextRole, label);
+        auto* item = new QListWidgetItem(layout_->tbl);
         item->setSizeHint(QSize(0, rowHeight));
         choice_.cellForRow(row);
     }
@@ -88,10 +93,14 @@ void SoundsViewController::showCheckmark()
     const std::optional<int> checked = choice_.selectedPath();
     for (int row = 0; row < layout_->tbl->count(); ++row) {
         QListWidgetItem* item = layout_->tbl->item(row);
+        const QString label = QString::fromStdString(choice_.rowLabel(row));
+        item->setText(label);
+        item->setData(Qt::AccessibleTextRole, label);
         item->setIcon(checkmark(checked == row));
         item->setData(ListRowsAccessible::chosenRole, checked == row);
     }
-    layout_->btnOwnFile->setEnabled(checked && choice_.acceptsOwnRecording(*checked));
+    layout_->btnOwnFile->setEnabled(!copying_ && checked && choice_.acceptsOwnRecording(*checked));
+    shippedButton_->setEnabled(!copying_ && checked && choice_.hasOwnRecording(*checked));
 }
 
 void SoundsViewController::didSelectRow(int row)
@@ -104,7 +113,7 @@ void SoundsViewController::didSelectRow(int row)
 
 void SoundsViewController::save()
 {
-    choice_.save();
+    showWriteResult(this, choice_.save());
     saveButton_->setEnabled(choice_.saveEnabled());
 }
 
@@ -135,23 +144,59 @@ void SoundsViewController::chooseOwnFile()
 void SoundsViewController::useOwnRecording(const QString& file)
 {
     const std::optional<int> row = choice_.selectedPath();
-    if (!row)
+    if (!row || copying_)
         return;
-    const QString label = QString::fromStdString(SoundChoice::label(*row));
-    const SoundChoice::OwnRecording result = choice_.useOwnRecording(*row, localPath(file), AudioModule::isPlayable);
-    if (result == SoundChoice::OwnRecording::copied) {
-        // Heard at once, as a tap on the row would play it.
-        didSelectRow(*row);
+    if (const auto refused = choice_.refusal(*row, localPath(file), AudioModule::isPlayable)) {
+        refuseOwnRecording(file, *refused);
+        emit ownRecordingSettled();
         return;
     }
-    const QString reason = result == SoundChoice::OwnRecording::notPlayable ? QStringLiteral("صدایی نیست که پخش شود")
-                                                                            : QStringLiteral("در پوشهٔ داده ها کپی نشد");
-    if (alerts_)
+    // A long file on a slow disk must not stop the window.
+    copying_ = true;
+    showCheckmark();
+    auto* copy = new QFutureWatcher<SoundChoice::OwnRecording>(this);
+    connect(copy, &QFutureWatcherBase::finished, this, [this, copy, file, row = *row] {
+        copy->deleteLater();
+        copying_ = false;
+        if (copy->result() == SoundChoice::OwnRecording::copied)
+            // Heard at once, as a tap on the row would play it.
+            didSelectRow(row);
+        else
+            refuseOwnRecording(file, copy->result());
+        showCheckmark();
+        emit ownRecordingSettled();
+    });
+    copy->setFuture(QtConcurrent::run(&SoundChoice::copyOwnRecording, choice_.ownFolder(), *row, localPath(file)));
+}
+
+void SoundsViewController::refuseOwnRecording(const QString& file, SoundChoice::OwnRecording why)
+{
+    const std::optional<int> row = choice_.selectedPath();
+    if (!alerts_ || !row)
+        return;
+    const QString label = QString::fromStdString(SoundChoice::label(*row));
+    const QString reason = why == SoundChoice::OwnRecording::notPlayable ? QStringLiteral("صدایی نیست که پخش شود")
+        : why == SoundChoice::OwnRecording::tooLarge ? QStringLiteral("از ۵۰ مگابایت بزرگ‌تر است")
+                                                     : QStringLiteral("در پوشهٔ داده ها کپی نشد");
+    alerts_->show("",
+                  QStringLiteral("فایل «%1» %2. صدای «%3» تغییری نکرد.")
+                      .arg(QFileInfo(file).fileName(), reason, label)
+                      .toStdString(),
+                  "Ok");
+}
+
+void SoundsViewController::useShippedRecording()
+{
+    const std::optional<int> row = choice_.selectedPath();
+    if (!row)
+        return;
+    if (!choice_.useShippedRecording(*row) && alerts_)
         alerts_->show("",
-                      QStringLiteral("فایل «%1» %2. صدای «%3» تغییری نکرد.")
-                          .arg(QFileInfo(file).fileName(), reason, label)
+                      QStringLiteral("صدای شما برای «%1» پاک نشد.")
+                          .arg(QString::fromStdString(SoundChoice::label(*row)))
                           .toStdString(),
                       "Ok");
+    showCheckmark();
 }
 
 void SoundsViewController::hideEvent(QHideEvent* event)

@@ -37,6 +37,8 @@ public:
     QListWidget* tbl() const;
     QPushButton* saveButton() const { return saveButton_; }
     QPushButton* ownFileButton() const;
+    // "صدای برنامه": the checked row plays the program's recording again.
+    QPushButton* shippedButton() const { return shippedButton_; }
     // The file dialog of "انتخاب فایل…" while it is open.
     QFileDialog* fileDialog() const { return fileDialog_; }
 
@@ -44,8 +46,14 @@ public:
     bool hasUnsavedChange() const override { return choice_.saveEnabled(); }
     void save() override;
     void discard() override;
-    // Puts the file in place of the checked row's recording, or says why not.
+    // Puts the file in place of the checked row's recording (copied off the window's thread),
+    // or says why not.
     void useOwnRecording(const QString& file);
+    void useShippedRecording();
+
+signals:
+    // The copy of an own recording ended, copied or not.
+    void ownRecordingSettled();
 
 protected:
     void hideEvent(QHideEvent* event) override;
@@ -54,12 +62,15 @@ private:
     void buildRows();
     void showCheckmark();
     void chooseOwnFile();
+    void refuseOwnRecording(const QString& file, SoundChoice::OwnRecording why);
 
     std::unique_ptr<::Ui::SoundsViewController> layout_;
     SoundChoice choice_;
     Alerts* alerts_;
     QPointer<QPushButton> saveButton_;
     QPointer<QFileDialog> fileDialog_;
+    QPushButton* shippedButton_;
+    bool copying_ = false;
 };
 
 }  // namespace kavenda

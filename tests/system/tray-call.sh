@@ -11,62 +11,17 @@ program=$1
 resources=$2
 screenshots=$3
 
-if [[ ${KAVENDA_INSIDE_SESSION:-} != 1 ]]; then
-  export KAVENDA_INSIDE_SESSION=1
-  exec xvfb-run -a -s "-screen 0 800x600x24" dbus-run-session -- "$0" "$@"
-fi
+source "$(dirname "$0")/session.sh"
+x_session "$0" "$@"
+begin_work
 
-work=$(mktemp -d)
-pids=()
-cleanup() {
-  for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-  wait 2>/dev/null || true
-  rm -rf "$work"
-}
-trap cleanup EXIT
-
-fail() {
-  echo "FAIL: $*" >&2
-  echo "--- program log" >&2; cat "$work/kavenda.log" >&2 || true
-  echo "--- bus" >&2; tail -n 60 "$work/bus.log" >&2 || true
-  exit 1
-}
-
-# Waits up to $1 seconds for the command after it to succeed.
-within() {
-  local seconds=$1; shift
-  for ((i = 0; i < seconds * 10; i++)); do
-    "$@" >/dev/null 2>&1 && return 0
-    sleep 0.1
-  done
-  return 1
-}
-
-# A data folder whose only city is Tehran, with the three calls on and nothing else.
 data=$work/data
-mkdir -p "$data"
-cp "$resources/Icons" "$data/Icons"
-chmod u+w "$data/Icons"
-sqlite3 "$data/Icons" "INSERT INTO tSelectedStates(StateID, Ordering)VALUES(39, 1);
-  UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 0, Item4 = 0, Item5 = 0, Item6 = 3, Item7 = '0';"
-evening=$(sqlite3 "$data/Icons" "SELECT T5 FROM tTimes WHERE StateID = 39 AND Date = 1050901")
-# 1 Azar 1405 is 22 November 2026; no summer hour any more. Start 15 seconds before the call.
+evening=$(tehran_data "$data")
+# Start 15 seconds before the call.
 start=$(date -d "2026-11-22 $evening:00 15 seconds ago" +%Y-%m-%dT%H:%M:%S)
 
-dbus-monitor "interface='org.freedesktop.Notifications'" >"$work/bus.log" 2>&1 &
-pids+=($!)
-trayer --edge top --align right --widthtype pixel --width 120 --height 28 --transparent false --tint 0xdddddd &
-pids+=($!)
-cat >"$work/dunstrc" <<'CONF'
-[global]
-    font = DejaVu Sans 10
-    geometry = "360x5-10+40"
-    show_actions = true
-CONF
-dunst -config "$work/dunstrc" &
-pids+=($!)
-within 10 dunstctl is-paused || fail "no notification server"
-within 10 sh -c "xwininfo -root -tree | grep -qi trayer" || fail "no tray"
+notification_server
+start_tray
 
 "$program" --background --data-dir "$data" --now "$start" >"$work/kavenda.log" 2>&1 &
 first=$!
@@ -84,15 +39,6 @@ import -window root "$screenshots/tray-call.png"
 dunstctl action 0
 within 5 grep -q "sound stopped" "$work/kavenda.log" || fail "the stop action did not stop the sound"
 grep -q "ActionInvoked" "$work/bus.log" || fail "dunst sent no action"
-
-# The program's window, found by its class and mapped (a hidden one exists from the start).
-shown_window() {
-  local id
-  for id in $(xwininfo -root -tree | awk '/\("kavenda" / {print $1}'); do
-    xwininfo -id "$id" | grep -q IsViewable && return 0
-  done
-  return 1
-}
 
 # A second start, in the background and then for the window, hands over and ends.
 timeout 10 "$program" --background --data-dir "$data" || fail "a second start in the background did not end with 0"

@@ -16,6 +16,7 @@
 #include "widgets/PresentationStack.h"
 
 #include <QAccessible>
+#include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
@@ -314,6 +315,33 @@ private slots:
         dragRow(list, 3, 1);
         QCOMPARE(f.orderings(), (QStringList{"33:0", "36:1", "35:2", "32:3"}));
         f.saveScreenshot(QStringLiteral("cities-list.png"));
+    }
+
+    // A removal or a move the database refuses is said under the list, which shows what is stored.
+    void aRefusedRemovalOrMoveIsSaidAndTheListShowsWhatIsStored()
+    {
+        OptionsFixture f;
+        f.choose({tehran, isfahan, kerman});
+        f.open();
+        EditableCityList* list = f.selection()->tbl();
+        const QStringList names = f.listedNames();
+        const QStringList orderings = f.orderings();
+        QVERIFY(f.db().ExecuteNonQuery(
+            "CREATE TRIGGER refuse BEFORE DELETE ON tSelectedStates BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
+        QVERIFY(f.db().ExecuteNonQuery(
+            "CREATE TRIGGER refuseMove BEFORE UPDATE ON tSelectedStates BEGIN SELECT RAISE(ABORT, 'full'); END"));
+        for (int attempt = 0; attempt < 2; ++attempt) {
+            attempt == 0 ? deleteRow(list, 1) : dragRow(list, 0, 2);
+            auto* line = f.selection()->findChild<QLabel*>(QStringLiteral("writeFailureLine"));
+            QVERIFY(line && line->isVisible());
+            QVERIFY(line->text().startsWith(QStringLiteral("ذخیره نشد")));
+            QCOMPARE(f.listedNames(), names);
+            QCOMPARE(f.orderings(), orderings);
+        }
+        QVERIFY(f.db().ExecuteNonQuery("DROP TRIGGER refuse"));
+        deleteRow(list, 1);
+        QCOMPARE(f.listedNames().size(), 2);
+        QVERIFY(!f.selection()->findChild<QLabel*>(QStringLiteral("writeFailureLine"))->isVisible());
     }
 
     void theListGrowsWithItsCitiesInsideItsScroller()

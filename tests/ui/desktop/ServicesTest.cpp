@@ -1,14 +1,24 @@
 #include "desktop/AudioModule.h"
 #include "desktop/LazyAudioPlayer.h"
 #include "desktop/QtNotificationService.h"
+#include "reminders/ReminderSound.h"
 #include "tests/support/FixedClock.h"
+#include "tests/support/FixedPaths.h"
+#include "tests/support/RecordingAudioPlayer.h"
+#include "tests/support/RecordingLog.h"
 
 #include <QCryptographicHash>
+#include <QDir>
 #include <QFile>
 #include <QSet>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QtEndian>
+
+#include <algorithm>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace kavenda {
 namespace {
@@ -156,6 +166,67 @@ private slots:
         QCOMPARE(audio.open(file), name != QStringLiteral("none.wav"));
         audio.stop();
         QVERIFY(!audio.isPlaying());
+    }
+
+    // An own recording that cannot be played never silences the call: the program's recording of
+    // the same name plays, and the log says why, once.
+    void anOwnRecordingThatCannotPlayGivesWayToTheShippedOne_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<int>("mode");
+        QTest::addColumn<QString>("why");
+        QTest::newRow("corrupt") << QByteArray("RIFF\x10\0\0\0WAVEfmt garbage", 24) + QByteArray(4096, '\x7f') << 0644
+                                 << QStringLiteral("no sound that can be decoded");
+        QTest::newRow("empty") << QByteArray() << 0644 << QStringLiteral("it is empty");
+        QTest::newRow("unreadable") << QByteArray() << 0000 << QStringLiteral("it cannot be read");
+        QTest::newRow("a good recording") << QByteArray() << 0644 << QString();
+    }
+
+    void anOwnRecordingThatCannotPlayGivesWayToTheShippedOne()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(int, mode);
+        QFETCH(QString, why);
+        QTemporaryDir data;
+        QVERIFY(QDir(data.path()).mkpath(QStringLiteral("sounds")));
+        const QString own = data.filePath(QStringLiteral("sounds/3.wav"));
+        if (QTest::currentDataTag() == QByteArray("a good recording") || mode == 0) {
+            // A real sound, the other melody: only its rights can keep it from playing.
+            QVERIFY(QFile::copy(QStringLiteral(KAVENDA_RESOURCE_DIR "/7.wav"), own));
+        } else {
+            QFile file(own);
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write(content) == content.size());
+        }
+        QVERIFY(::chmod(QFile::encodeName(own).constData(), static_cast<mode_t>(mode)) == 0);
+        // Root reads every file: the player then runs as nobody, as a person's program would.
+        const bool dropped = mode == 0 && ::geteuid() == 0;
+        if (dropped) {
+            ::chmod(QFile::encodeName(data.path()).constData(), 0755);
+            QVERIFY(::setegid(65534) == 0 && ::seteuid(65534) == 0);
+        }
+        FixedPaths paths(data.path().toStdString(), KAVENDA_RESOURCE_DIR);
+        test::RecordingAudioPlayer audio;
+        test::RecordingLog log;
+        ReminderSound sound(audio, paths, log, AudioModule::isPlayable);
+        const NotificationRecord call{start, "Asia/Tehran", "اذان", "Ok", "3.wav", {}};
+        QVERIFY(sound.play(call) != 0);
+        sound.stop();
+        QVERIFY(sound.play(call) != 0);
+        if (dropped)
+            QVERIFY(::seteuid(0) == 0 && ::setegid(0) == 0);
+
+        const std::string heard = why.isEmpty() ? own.toStdString() : KAVENDA_RESOURCE_DIR "/3.wav";
+        QCOMPARE(std::count(audio.calls.begin(), audio.calls.end(), "open " + heard), 2);
+        const auto told = std::count_if(log.lines.begin(), log.lines.end(), [&](const std::string& line) {
+            return line.find(own.toStdString()) != std::string::npos;
+        });
+        QCOMPARE(told, why.isEmpty() ? 0 : 1);
+        if (!why.isEmpty()) {
+            const auto line = std::find_if(log.lines.begin(), log.lines.end(), [&](const std::string& text) {
+                return text.find(own.toStdString()) != std::string::npos;
+            });
+            QVERIFY2(QString::fromStdString(*line).contains(why), line->c_str());
+        }
     }
 
 private:

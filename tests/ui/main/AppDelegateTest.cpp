@@ -22,6 +22,7 @@
 #include <QtTest>
 
 #include <algorithm>
+#include <functional>
 #include <tuple>
 
 namespace kavenda {
@@ -174,7 +175,65 @@ private slots:
         QCOMPARE(desktop[0], record);
     }
 
+    // Without a tray (there is none offscreen) reminders go on while the window is closed, and
+    // the program says so the first time; with every reminder off closing ends it.
+    void withoutATrayTheClosedWindowKeepsAnnouncingWhileAReminderIsOn()
+    {
+        QVERIFY(!delegate->tray());
+        const QuitEater eater;
+        const QSignalSpy quits(delegate.get(), &AppDelegate::quitRequested);
+        int told = 0;
+        std::function<void()> quitFromNotice;
+        delegate->setTellRunsInBackground([&](std::function<void()> quitProgram) {
+            ++told;
+            quitFromNotice = std::move(quitProgram);
+        });
+        for (int time = 0; time < 2; ++time) {
+            delegate->showWindow();
+            QVERIFY(!delegate->window()->close());
+            QVERIFY(!delegate->window()->isVisible());
+        }
+        QCOMPARE(told, 1);
+        QCOMPARE(quits.count(), 0);
+
+        test::execSql(paths.documentsFolder() / "Icons",
+                      "UPDATE tSetting SET Item0 = 0, Item1 = 0, Item2 = 0, Item3 = 0, Item4 = 0, Item5 = 0, "
+                      "Item7 = '8:00'");
+        delegate->showWindow();
+        QVERIFY2(!delegate->window()->close(), "the occasions are a reminder too");
+        QCOMPARE(quits.count(), 0);
+        test::execSql(paths.documentsFolder() / "Icons", "UPDATE tSetting SET Item7 = '0'");
+        delegate->showWindow();
+        delegate->window()->close();
+        QCOMPARE(quits.count(), 1);
+        // The notice's "خروج".
+        quitFromNotice();
+        QCOMPARE(quits.count(), 2);
+    }
+
+    void aStartInTheBackgroundShowsNoWindowTrayOrNone()
+    {
+        AppDelegate background(
+            AppServices{&clock, &calendar, &paths, &log, &notifications, &random, nullptr, nullptr, &alerts, &screen},
+            [](const NotificationRecord&) {});
+        background.setStartsInBackground(true);
+        QVERIFY(background.didFinishLaunchingWithOptions());
+        QTest::qWait(50);
+        QVERIFY(!background.window()->isVisible());
+        background.showWindow();
+        QVERIFY(background.window()->isVisible());
+    }
+
 private:
+    // Keeps the test running when the program is asked to end.
+    struct QuitEater : QObject {
+        QuitEater() { qApp->installEventFilter(this); }
+        bool eventFilter(QObject* watched, QEvent* event) override
+        {
+            return watched == qApp && event->type() == QEvent::Quit;
+        }
+    };
+
     test::TempFolder temp;
     FixedPaths paths{temp.path() / "documents", temp.path() / "resources"};
     test::RecordingLog log;

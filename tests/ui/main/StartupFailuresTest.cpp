@@ -10,6 +10,8 @@
 #include <iterator>
 #include <string>
 #include <sys/wait.h>
+#include <unistd.h>
+#include <vector>
 
 namespace kavenda {
 namespace {
@@ -40,6 +42,40 @@ protected:
     }
 
     Outcome start(const std::string& options) const { return start(KAVENDA_PROGRAM, options); }
+
+    // The program with the environment changed (env's own syntax: -u NAME first, then NAME=value), without
+    // --data-dir unless the options give one, run in a folder of its own.
+    Outcome startIn(const std::string& environment, const std::string& options) const
+    {
+        fs::create_directories(temp.path() / "cwd");
+        const fs::path out = temp.path() / "out";
+        const fs::path err = temp.path() / "err";
+        const std::string command = "cd '" + (temp.path() / "cwd").string() + "' && env " + environment
+            + " TZ=Asia/Tehran QT_QPA_PLATFORM=offscreen '" + KAVENDA_PROGRAM + "' " + options + " >'" + out.string()
+            + "' 2>'" + err.string() + "' </dev/null";
+        const int status = std::system(command.c_str());
+        return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, test::fileText(out), test::fileText(err)};
+    }
+
+    // A small file system of its own at the folder, for as long as the test runs.
+    bool mounted(const fs::path& folder, const std::string& options)
+    {
+        fs::create_directories(folder);
+        if (::geteuid() != 0
+            || std::system(
+                   ("mount -t tmpfs -o " + options + " kavenda-test '" + folder.string() + "' 2>/dev/null").c_str())
+                != 0)
+            return false;
+        mounts.push_back(folder);
+        return true;
+    }
+    void TearDown() override
+    {
+        for (const fs::path& folder : mounts)
+            std::system(("umount '" + folder.string() + "'").c_str());
+    }
+
+    std::vector<fs::path> mounts;
 
     // The program installed beside a resource folder of our making.
     fs::path installedWith(const std::function<void(const fs::path& resources)>& fill) const
@@ -121,6 +157,80 @@ TEST_F(StartupFailures, ADamagedSchemaNeitherAbortsTheWindowNorTheReminders)
     const Outcome reminders = start("--now 2013-07-01T12:00 --reminders");
     EXPECT_EQ(reminders.status, 0) << reminders.err;
     EXPECT_EQ(test::fileText(working()), before);
+}
+
+TEST_F(StartupFailures, ADataFolderThatCannotBeMadeIsNamedWithItsCause)
+{
+    const fs::path home = temp.path() / "home";
+    const fs::path file = temp.path() / "notes";
+    fs::create_directories(home);
+    std::ofstream(file) << "mine";
+    const std::string h = "HOME='" + home.string() + "' ";
+    // clang-format off
+    const struct {
+        const char* what;
+        std::string environment;
+        std::string options;
+        std::string said;
+    } cases[] = {
+        {"--data-dir names a file",       "-u XDG_DATA_HOME " + h, "--data-dir '" + file.string() + "'",
+         "kavenda: cannot keep the data in " + file.string() + ": it is not a folder\n"},
+        {"XDG_DATA_HOME names a file",    h + "XDG_DATA_HOME='" + file.string() + "'", "",
+         "kavenda: cannot keep the data in " + file.string() + ": it is not a folder\n"},
+        {"no HOME and no XDG_DATA_HOME",  "-u HOME -u XDG_DATA_HOME", "",
+         "kavenda: neither HOME nor XDG_DATA_HOME names a folder for the data; set HOME or start with "
+         "--data-dir FOLDER\n"},
+        {"a relative HOME",               "-u XDG_DATA_HOME HOME=home", "",
+         "kavenda: neither HOME nor XDG_DATA_HOME names a folder for the data; set HOME or start with "
+         "--data-dir FOLDER\n"},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        const Outcome result = startIn(c.environment, c.options + " --reminders");
+        EXPECT_EQ(result.status, 1) << c.what;
+        EXPECT_EQ(result.err, c.said) << c.what;
+        EXPECT_EQ(result.out, "") << c.what;
+        EXPECT_EQ(test::fileText(file), "mine") << c.what;
+        EXPECT_TRUE(fs::is_empty(home)) << c.what;
+        EXPECT_TRUE(fs::is_empty(temp.path() / "cwd")) << c.what;
+    }
+}
+
+TEST_F(StartupFailures, ARelativeXdgDataHomeIsIgnoredAsTheRulesSay)
+{
+    const fs::path home = temp.path() / "home";
+    fs::create_directories(home);
+    const Outcome result = startIn("HOME='" + home.string() + "' XDG_DATA_HOME=data", "--reminders");
+    EXPECT_EQ(result.status, 0) << result.err;
+    EXPECT_TRUE(fs::exists(home / ".local" / "share" / "kavenda" / "Icons"));
+    EXPECT_TRUE(fs::is_empty(temp.path() / "cwd"));
+}
+
+TEST_F(StartupFailures, AReadOnlyFolderOrAFullDiskIsNamedAndNothingIsLeft)
+{
+    const fs::path readOnly = temp.path() / "read-only";
+    const fs::path full = temp.path() / "full";
+    if (!mounted(readOnly, "ro,size=1m") || !mounted(full, "size=64k"))
+        GTEST_SKIP() << "needs root and tmpfs mounts for a read-only folder and a full disk";
+    // clang-format off
+    const struct {
+        const char* what;
+        fs::path dataDir;
+        fs::path named;
+        std::string cause;
+    } cases[] = {
+        {"a read-only file system", readOnly / "kavenda", readOnly, "it is read-only"},
+        {"a full disk",             full,                 full,     "no space is left on its disk"},
+        {"a full disk, new folder", full / "kavenda",     full / "kavenda", "no space is left on its disk"},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        const Outcome result = startIn("", "--data-dir '" + c.dataDir.string() + "' --reminders");
+        EXPECT_EQ(result.status, 1) << c.what;
+        EXPECT_EQ(result.err, "kavenda: cannot keep the data in " + c.named.string() + ": " + c.cause + "\n") << c.what;
+        EXPECT_TRUE(fs::is_empty(readOnly)) << c.what;
+        EXPECT_TRUE(fs::is_empty(full)) << c.what << ": no partial copy, no lock, no folder";
+    }
 }
 
 }  // namespace

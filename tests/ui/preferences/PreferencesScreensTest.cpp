@@ -289,10 +289,78 @@ private slots:
         QTRY_VERIFY(screen->fileDialog());
         pickFile(screen->fileDialog(), wav(11));
         QTRY_VERIFY_WITH_TIMEOUT(std::filesystem::exists(own), mediaTimeout);
+        QTRY_VERIFY_WITH_TIMEOUT(!f.audio.calls.empty() && f.audio.calls.back() == "play", mediaTimeout);
         QCOMPARE(f.alerts.messages.size(), std::size_t{1});
         QCOMPARE(std::filesystem::file_size(own), std::filesystem::file_size(wav(11)));
-        QCOMPARE(f.audio.calls.back(), std::string("play"));
         QVERIFY(std::find(f.audio.calls.begin(), f.audio.calls.end(), "open " + own.string()) != f.audio.calls.end());
+        const QString label = QString::fromStdString(SoundChoice::label(3));
+        QCOMPARE(screen->tbl()->item(3)->text(), label + QStringLiteral(" (صدای شما)"));
+        QCOMPARE(screen->tbl()->item(4)->text(), QString::fromStdString(SoundChoice::label(4)));
+
+        // A file too large for a call is refused before anything is read of it.
+        const auto large = f.documents() / "large.wav";
+        std::filesystem::copy_file(wav(11), large);
+        std::filesystem::resize_file(large, SoundChoice::largestOwnRecording + 1);
+        click(screen->ownFileButton());
+        QTRY_VERIFY(screen->fileDialog());
+        pickFile(screen->fileDialog(), large);
+        QTRY_COMPARE_WITH_TIMEOUT(f.alerts.messages.size(), std::size_t{2}, mediaTimeout);
+        QVERIFY(QString::fromStdString(f.alerts.messages[1]).contains(QStringLiteral("۵۰ مگابایت")));
+        QCOMPARE(std::filesystem::file_size(own), std::filesystem::file_size(wav(11)));
+
+        // Back to the program's recording.
+        QVERIFY(screen->shippedButton()->isEnabled());
+        click(screen->shippedButton());
+        QVERIFY(!std::filesystem::exists(own));
+        QCOMPARE(screen->tbl()->item(3)->text(), label);
+        QVERIFY(!screen->shippedButton()->isEnabled());
+    }
+
+    // A Save the database refuses is said under the screen; the screen keeps the change and its
+    // Save, and the same Save goes through once the database takes writes again.
+    void aRefusedSaveIsSaidAndCanBeTriedAgain()
+    {
+        Preferences f;
+        auto* settings = f.showTab<SettingController>(1);
+        QVERIFY(settings);
+        click(settings->switchOf(0));
+        auto* sound = f.showTab<SoundsViewController>(2);
+        QVERIFY(sound);
+        clickRow(sound->tbl(), 7);
+        auto* occasions = f.showTab<HistoryViewController>(3);
+        QVERIFY(occasions);
+        click(occasions->switchOn());
+        // clang-format off
+        const struct {
+            int tab;
+            QWidget* screen;
+            QPushButton* save;
+            const char* column;
+            std::string saved;
+        } cases[] = {
+            {1, settings,  settings->saveButton(),  "Item0", "0"},
+            {2, sound,     sound->saveButton(),     "Item6", "7"},
+            {3, occasions, occasions->saveButton(), "Item7", "08:00"},
+        };
+        // clang-format on
+        for (const auto& c : cases) {
+            QVERIFY(f.tabs()->currentIndex() == c.tab || f.showTab<QWidget>(c.tab));
+            const std::string before = f.setting(c.column);
+            QVERIFY(f.db().ExecuteNonQuery(
+                "CREATE TRIGGER refuse BEFORE UPDATE ON tSetting BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
+            click(c.save);
+            auto* line = c.screen->findChild<QLabel*>(QStringLiteral("writeFailureLine"));
+            QVERIFY2(line && line->isVisible(), c.column);
+            QVERIFY(line->text().startsWith(QStringLiteral("ذخیره نشد")));
+            QCOMPARE(f.setting(c.column), before);
+            QVERIFY2(c.save->isEnabled(), "Save stays, to try again");
+
+            QVERIFY(f.db().ExecuteNonQuery("DROP TRIGGER refuse"));
+            click(c.save);
+            QVERIFY(!line->isVisible());
+            QCOMPARE(f.setting(c.column), c.saved);
+            QVERIFY(!c.save->isEnabled());
+        }
     }
 
     void occasionsSwitchShowsThePickerAndSavesTheTime()

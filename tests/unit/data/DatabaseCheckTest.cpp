@@ -1,4 +1,5 @@
 #include "data/DatabaseCheck.h"
+#include "data/DataFolderLock.h"
 #include "data/MyDB.h"
 #include "tests/support/FileText.h"
 #include "tests/support/FixedPaths.h"
@@ -122,7 +123,7 @@ TEST_F(DatabaseCheck, CopiesLeftByAnEarlierStartAreRemoved)
     for (const auto& entry : fs::directory_iterator(paths.documentsFolder()))
         names.push_back(entry.path().filename().string());
     std::sort(names.begin(), names.end());
-    EXPECT_EQ(names, (std::vector<std::string>{"Icons", "Icons.old"}));
+    EXPECT_EQ(names, (std::vector<std::string>{DataFolderLock::fileName, "Icons", "Icons.old"}));
     EXPECT_EQ(test::fileText(working()), test::fileText(shipped));
 }
 

@@ -1,4 +1,5 @@
 #include "data/MyDB.h"
+#include "data/DataFolderLock.h"
 #include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
@@ -6,9 +7,13 @@
 
 #include <gtest/gtest.h>
 
+#include <sqlite3.h>
+
+#include <chrono>
 #include <csignal>
 #include <fstream>
 #include <sys/resource.h>
+#include <thread>
 
 namespace kavenda {
 namespace {
@@ -115,7 +120,9 @@ TEST_F(MyDBTest, FirstUseCopiesTheResourceAndLaterUsesNeverOverwrite)
     }
     MyDB again("Icons", paths, log);
     EXPECT_EQ(again.ExecuteScaler("SELECT Item6 FROM tSetting"), "4");
-    EXPECT_EQ(std::distance(fs::directory_iterator(paths.documentsFolder()), fs::directory_iterator()), 1);
+    // The working copy, and the lock file under which it was made.
+    EXPECT_EQ(std::distance(fs::directory_iterator(paths.documentsFolder()), fs::directory_iterator()), 2);
+    EXPECT_TRUE(fs::exists(paths.documentsFolder() / DataFolderLock::fileName));
 }
 
 TEST_F(MyDBTest, OpeningAgainClosesTheHandleItReplaces)
@@ -166,19 +173,61 @@ TEST_F(MyDBTest, ACopyCutShortLeavesNoFile)
     auto previous = std::signal(SIGXFSZ, SIG_IGN);
     setrlimit(RLIMIT_FSIZE, &small);
     bool copied = true;
+    std::error_code cause;
     {
         MyDB db("Icons", paths, log);
         copied = db.copyDB();
+        cause = db.copyError();
     }
     setrlimit(RLIMIT_FSIZE, &saved);
     std::signal(SIGXFSZ, previous);
 
     EXPECT_FALSE(copied);
-    EXPECT_TRUE(fs::is_empty(paths.documentsFolder()));
+    EXPECT_EQ(cause, std::errc::file_too_large) << cause.message();
+    // Nothing but the folder's lock file.
+    for (const auto& entry : fs::directory_iterator(paths.documentsFolder()))
+        EXPECT_EQ(entry.path().filename(), DataFolderLock::fileName);
 
     // The next start copies the whole file.
     MyDB db("Icons", paths, log);
     EXPECT_EQ(fs::file_size(db.dbPath()), fs::file_size(paths.resourceFolder() / "Icons"));
+}
+
+TEST_F(MyDBTest, ATransactionKeepsAllItsStatementsOrNone)
+{
+    MyDB db("Icons", paths, log);
+    const auto count = [&db] { return db.ExecuteScaler("SELECT COUNT(*) FROM tSelectedStates").value_or("?"); };
+    EXPECT_FALSE(db.inTransaction([&db] {
+        return db.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(32, 0)")
+            && db.ExecuteNonQuery("INSERT INTO nowhere VALUES(1)");
+    }));
+    EXPECT_EQ(count(), "0") << "the first insert was taken back";
+    EXPECT_TRUE(db.inTransaction([&db, &count] {
+        return db.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(32, 0)") && count() == "1"
+            && db.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(33, 1)");
+    }));
+    EXPECT_EQ(count(), "2");
+}
+
+TEST_F(MyDBTest, AWriterThatHoldsTheFileAMomentIsWaitedFor)
+{
+    MyDB db("Icons", paths, log);
+    sqlite3* other = nullptr;
+    ASSERT_EQ(sqlite3_open(db.dbPath().c_str(), &other), SQLITE_OK);
+    ASSERT_EQ(
+        sqlite3_exec(other, "BEGIN IMMEDIATE; INSERT INTO tSelectedStates VALUES(33, 5)", nullptr, nullptr, nullptr),
+        SQLITE_OK);
+    std::thread release([other] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(400));
+        sqlite3_exec(other, "COMMIT", nullptr, nullptr, nullptr);
+    });
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_TRUE(db.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(32, 0)"));
+    EXPECT_GE(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(300));
+    EXPECT_TRUE(db.inTransaction([&db] { return db.ExecuteNonQuery("UPDATE tSelectedStates SET Ordering = 1"); }));
+    release.join();
+    sqlite3_close(other);
+    EXPECT_EQ(db.ExecuteScaler("SELECT COUNT(*) FROM tSelectedStates").value_or("?"), "2");
 }
 
 TEST_F(MyDBTest, NoResourceMeansNoCopyAndAnEmptyDatabaseLater)

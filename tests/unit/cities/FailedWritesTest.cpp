@@ -1,0 +1,140 @@
+#include "screens/cities/ChosenCities.h"
+#include "screens/preferences/OccasionTime.h"
+#include "screens/preferences/ReminderSettings.h"
+#include "screens/preferences/SoundChoice.h"
+#include "tests/unit/cities/CitiesFixture.h"
+
+#include <functional>
+#include <string>
+
+namespace kavenda {
+namespace {
+
+// Every screen that writes: a write the database refuses is told (false), changes nothing
+// stored, and keeps what the screen holds, so that the same action goes through once the
+// database takes writes again.
+class FailedWritesTest : public test::CitiesFixture {
+protected:
+    void refuse(const std::string& table, const std::string& action)
+    {
+        ASSERT_TRUE(db.ExecuteNonQuery("CREATE TRIGGER refuse BEFORE " + action + " ON " + table
+                                       + " BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
+    }
+    void allow() { ASSERT_TRUE(db.ExecuteNonQuery("DROP TRIGGER refuse")); }
+
+    std::string stored(const std::string& sql)
+    {
+        std::string text;
+        for (const auto& row : db.Execute(sql))
+            for (const auto& [column, value] : row)
+                text += column + "=" + value + " ";
+        return text;
+    }
+    std::string everything()
+    {
+        return stored("SELECT * FROM tSetting") + stored("SELECT * FROM tSelectedStates ORDER BY StateID")
+            + stored("SELECT StateID, Name FROM tStates WHERE StateID > 62")
+            + stored("SELECT * FROM tTimes WHERE StateID > 62");
+    }
+};
+
+TEST_F(FailedWritesTest, SettingsSoundAndOccasionsKeepTheirValuesUntilSaved)
+{
+    ReminderSettings settings(db);
+    settings.load();
+    settings.valueChanged(0, false, 1);
+    SoundChoice sound(db, paths, nullptr);
+    sound.load();
+    sound.didSelectRow(7);
+    OccasionTime occasions(db, nullptr);
+    occasions.load();
+    occasions.valueChanged(true);
+    occasions.pickerValueChanged(9, 30);
+
+    // clang-format off
+    const struct {
+        const char* screen;
+        std::function<bool()> save;
+        std::function<bool()> saveEnabled;
+        std::function<bool()> holds;
+        std::string stored;
+    } cases[] = {
+        {"settings",  [&] { return settings.save(); },  [&] { return settings.saveEnabled(); },
+                      [&] { return !settings.isOn(0); },                  "SELECT Item0 FROM tSetting"},
+        {"sound",     [&] { return sound.save(); },     [&] { return sound.saveEnabled(); },
+                      [&] { return sound.selectedPath() == 7; },          "SELECT Item6 FROM tSetting"},
+        {"occasions", [&] { return occasions.save(); }, [&] { return occasions.saveEnabled(); },
+                      [&] { return occasions.currentDate() == "09:30"; }, "SELECT Item7 FROM tSetting"},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        const std::string before = stored(c.stored);
+        refuse("tSetting", "UPDATE");
+        EXPECT_FALSE(c.save()) << c.screen;
+        EXPECT_EQ(stored(c.stored), before) << c.screen;
+        EXPECT_TRUE(c.saveEnabled()) << c.screen << ": Save stays, to try again";
+        EXPECT_TRUE(c.holds()) << c.screen;
+        allow();
+        EXPECT_TRUE(c.save()) << c.screen;
+        EXPECT_FALSE(c.saveEnabled()) << c.screen;
+        EXPECT_NE(stored(c.stored), before) << c.screen;
+    }
+}
+
+TEST_F(FailedWritesTest, TheCityListShowsWhatIsStoredWhenARemovalOrAMoveIsRefused)
+{
+    choose(32, 0);
+    choose(33, 1);
+    choose(35, 2);
+    ChosenCities cities(db, [] {});
+    cities.updateDataSource();
+
+    // clang-format off
+    const struct {
+        const char* what;
+        const char* table;
+        const char* action;
+        std::function<bool()> write;
+    } cases[] = {
+        {"a removal", "tSelectedStates", "DELETE", [&] { return cities.remove(1); }},
+        {"a move",    "tSelectedStates", "UPDATE", [&] { return cities.move(0, 2); }},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        const std::string before = everything();
+        refuse(c.table, c.action);
+        EXPECT_FALSE(c.write()) << c.what;
+        EXPECT_EQ(everything(), before) << c.what;
+        EXPECT_EQ(cities.count(), 3) << c.what;
+        EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0", "33:1", "35:2"})) << c.what;
+        allow();
+    }
+    EXPECT_TRUE(cities.move(0, 2));
+    EXPECT_EQ(orderings(), (std::vector<std::string>{"33:0", "35:1", "32:2"}));
+    EXPECT_TRUE(cities.remove(0));
+    EXPECT_EQ(orderings(), (std::vector<std::string>{"35:1", "32:2"}));
+}
+
+TEST_F(FailedWritesTest, ARemovedCityOfOurOwnGoesWholeOrStays)
+{
+    choose(32, 0);
+    ASSERT_TRUE(db.ExecuteNonQuery("INSERT INTO tStates(Name, ParentID, IsCenter) VALUES('جهرم', 1, 0)"));
+    const int own = countOf("SELECT MAX(StateID) FROM tStates");
+    ASSERT_TRUE(db.ExecuteNonQuery("INSERT INTO tTimes(StateID, Date, T1, T2, T3, T4, T5, T6)VALUES("
+                                   + std::to_string(own) + ", 14000101, 1, 1, 1, 1, 1, 1)"));
+    choose(own, 1);
+    ChosenCities cities(db, [] {});
+    cities.updateDataSource();
+    const std::string before = everything();
+    refuse("tTimes", "DELETE");
+    EXPECT_FALSE(cities.remove(1));
+    EXPECT_EQ(everything(), before) << "the choice and the place come back with the offsets";
+    EXPECT_EQ(cities.count(), 2);
+    allow();
+    EXPECT_TRUE(cities.remove(1));
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = " + std::to_string(own)), 0);
+    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = " + std::to_string(own)), 0);
+}
+
+}  // namespace
+}  // namespace kavenda

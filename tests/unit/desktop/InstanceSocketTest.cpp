@@ -1,0 +1,234 @@
+#include "desktop/InstanceSocket.h"
+
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include <csignal>
+
+#include <sys/fsuid.h>
+#include <sys/socket.h>
+#include <sys/stat.h>
+#include <sys/un.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace kavenda {
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr uid_t nobody = 65534;
+
+// Sets an environment variable for one test, or removes it, and puts the old value back.
+class ScopedEnv {
+public:
+    ScopedEnv(const char* name, std::optional<std::string> value) : name_(name)
+    {
+        if (const char* old = std::getenv(name))
+            old_ = old;
+        value ? ::setenv(name, value->c_str(), 1) : ::unsetenv(name);
+    }
+    ~ScopedEnv() { old_ ? ::setenv(name_, old_->c_str(), 1) : ::unsetenv(name_); }
+
+private:
+    const char* name_;
+    std::optional<std::string> old_;
+};
+
+fs::path privateFolder(const fs::path& path)
+{
+    fs::create_directories(path);
+    ::chmod(path.c_str(), 0700);
+    return path;
+}
+
+// The line a caller sent, as the listener reads it.
+std::string receivedLine(const InstanceSocket& listener)
+{
+    int peer = -1;
+    for (int tries = 0; peer < 0 && tries < 200; ++tries) {
+        peer = listener.acceptCaller();
+        if (peer < 0)
+            ::usleep(10'000);
+    }
+    if (peer < 0)
+        return "<nobody called>";
+    std::string line;
+    char c = 0;
+    for (int tries = 0; tries < 200 && line.find('\n') == std::string::npos;) {
+        const ssize_t count = ::read(peer, &c, 1);
+        if (count == 1)
+            line += c;
+        else if (count == 0)
+            break;
+        else
+            ::usleep(10'000), ++tries;
+    }
+    ::close(peer);
+    return line;
+}
+
+// Runs work in a child whose effective user is nobody while it still finds paths as root (its
+// file-system id), so that it can reach a socket in our private folder; the child's status.
+int asNobodyReachingOurFolder(const std::function<int()>& work)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        if (::setresuid(0, nobody, 0) != 0)
+            ::_exit(100);
+        ::setfsuid(0);
+        ::_exit(work());
+    }
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
+
+class InstanceSocketTest : public ::testing::Test {
+protected:
+    test::TempFolder temp;
+    ScopedEnv runtime{"XDG_RUNTIME_DIR", (temp.path() / "runtime").string()};
+    ScopedEnv tmpdir{"TMPDIR", (temp.path() / "tmp").string()};
+    fs::path data = temp.path() / "data";
+
+    void SetUp() override
+    {
+        privateFolder(temp.path() / "runtime");
+        fs::create_directories(temp.path() / "tmp");
+        ::chmod((temp.path() / "tmp").c_str(), 01777);
+        fs::create_directories(data);
+    }
+};
+
+TEST_F(InstanceSocketTest, AMessageReachesTheProgramOfTheSameFolderOnly)
+{
+    EXPECT_FALSE(sendToRunningInstance(data, "show")) << "nobody listens yet";
+    InstanceSocket running(data);
+    ASSERT_TRUE(running.listen());
+    EXPECT_EQ(running.path().parent_path(), temp.path() / "runtime");
+
+    EXPECT_TRUE(sendToRunningInstance(data / "." / "", "quit"));
+    EXPECT_EQ(receivedLine(running), "quit\n");
+    fs::create_directories(temp.path() / "other");
+    EXPECT_FALSE(sendToRunningInstance(temp.path() / "other", "show"));
+
+    InstanceSocket second(data);
+    EXPECT_FALSE(second.listen()) << "a running program keeps its socket";
+}
+
+TEST_F(InstanceSocketTest, TheSocketGoesWithTheProgramAndOneLeftByACrashIsReplaced)
+{
+    fs::path path;
+    {
+        InstanceSocket running(data);
+        ASSERT_TRUE(running.listen());
+        path = running.path();
+        EXPECT_TRUE(fs::exists(path));
+    }
+    EXPECT_FALSE(fs::exists(path)) << "a clean exit removes the socket";
+
+    // A socket file whose program died: bound, never unlinked.
+    const int dead = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::snprintf(address.sun_path, sizeof address.sun_path, "%s", path.c_str());
+    ASSERT_EQ(::bind(dead, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    ::close(dead);
+    EXPECT_FALSE(sendToRunningInstance(data, "show"));
+    InstanceSocket next(data);
+    EXPECT_TRUE(next.listen());
+    EXPECT_TRUE(sendToRunningInstance(data, "show"));
+    EXPECT_EQ(receivedLine(next), "show\n");
+}
+
+TEST_F(InstanceSocketTest, ARuntimeFolderThatIsNotPrivateGivesWayToOneOfOurOwn)
+{
+    const fs::path fallback = temp.path() / "tmp" / ("kavenda-" + std::to_string(::getuid()));
+    const fs::path open = temp.path() / "open";
+    fs::create_directories(open);
+    ::chmod(open.c_str(), 0755);
+    // clang-format off
+    const std::pair<const char*, std::optional<std::string>> cases[] = {
+        {"missing",         std::nullopt},
+        {"relative",        std::string("runtime")},
+        {"readable by all", open.string()},
+        {"no folder",       (temp.path() / "none").string()},
+    };
+    // clang-format on
+    for (const auto& [what, value] : cases) {
+        const ScopedEnv variable("XDG_RUNTIME_DIR", value);
+        EXPECT_EQ(InstanceSocket::runtimeFolder(), fallback) << what;
+        struct stat status {};
+        ASSERT_EQ(::lstat(fallback.c_str(), &status), 0) << what;
+        EXPECT_EQ(status.st_mode & 0777, 0700u) << what;
+    }
+}
+
+TEST_F(InstanceSocketTest, AFallbackFolderMadeByAnotherUserIsNotUsed)
+{
+    const ScopedEnv variable("XDG_RUNTIME_DIR", std::nullopt);
+    const fs::path fallback = temp.path() / "tmp" / ("kavenda-" + std::to_string(::getuid()));
+    fs::create_directories(fallback);
+    ::chmod(fallback.c_str(), 0777);
+    EXPECT_EQ(InstanceSocket::runtimeFolder(), std::nullopt) << "open to everyone";
+    if (::getuid() == 0) {
+        ::chmod(fallback.c_str(), 0700);
+        ASSERT_EQ(::chown(fallback.c_str(), nobody, nobody), 0);
+        EXPECT_EQ(InstanceSocket::runtimeFolder(), std::nullopt) << "another user's";
+    }
+    InstanceSocket socket(data);
+    EXPECT_TRUE(socket.path().empty());
+    EXPECT_FALSE(socket.listen());
+    EXPECT_FALSE(socket.send("show"));
+}
+
+TEST_F(InstanceSocketTest, NeitherEndTrustsAnotherUser)
+{
+    if (::getuid() != 0)
+        GTEST_SKIP() << "needs root to act as a second user";
+    InstanceSocket running(data);
+    ASSERT_TRUE(running.listen());
+    // A caller of another user reaches the socket: turned away, its line never read.
+    EXPECT_EQ(asNobodyReachingOurFolder([&] { return sendToRunningInstance(data, "quit") ? 0 : 1; }), 0);
+    EXPECT_EQ(running.acceptCaller(), -1);
+
+    // A listener of another user on our socket's name: our message is not handed to it.
+    const fs::path elsewhere = temp.path() / "else";
+    fs::create_directories(elsewhere);
+    InstanceSocket ours(elsewhere);
+    int ready[2];
+    ASSERT_EQ(::pipe(ready), 0);
+    const pid_t child = ::fork();
+    if (child == 0) {
+        ::setresuid(0, nobody, 0);
+        ::setfsuid(0);
+        const int listener = ::socket(AF_UNIX, SOCK_STREAM, 0);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        std::snprintf(address.sun_path, sizeof address.sun_path, "%s", ours.path().c_str());
+        const bool bound =
+            ::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0 && ::listen(listener, 4) == 0;
+        const char mark = bound ? 'y' : 'n';
+        [[maybe_unused]] const ssize_t written = ::write(ready[1], &mark, 1);
+        ::pause();
+        ::_exit(0);
+    }
+    char mark = 0;
+    ASSERT_EQ(::read(ready[0], &mark, 1), 1);
+    EXPECT_EQ(mark, 'y');
+    EXPECT_FALSE(ours.send("show"));
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    ::close(ready[0]);
+    ::close(ready[1]);
+}
+
+}  // namespace
+}  // namespace kavenda
