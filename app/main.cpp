@@ -1,4 +1,5 @@
 #include "app/AppDelegate.h"
+#include "app/HorizonKeeper.h"
 #include "app/MonthCommand.h"
 #include "app/PersianFont.h"
 #include "app/PersianQtTexts.h"
@@ -134,15 +135,18 @@ int main(int argc, char** argv)
     Platform::install({clock.get(), &calendar, &paths, &log, &notifications, &random, &audio, &urls, &alerts, &screen});
     if (const auto problem = openSharedDatabase())
         return reportStartupProblem(*problem, log);
+    // The working copy holds the coming years as well: computed when fewer than 400 days lie ahead.
+    HorizonKeeper horizon(MyDB::initialize().dbPath(), log);
+    const auto todayKey = [&] { return std::stoi(DateTimePersian::init(*clock, calendar).getPersianDate()); };
 
     if (parser.isSet(reminders)) {
-        MyDB::initialize();
+        horizon.keepAheadNow(todayKey());
         MyNotification::initialize().update();
         std::fputs(reminderList(notifications.pending(), calendar).c_str(), stdout);
         return 0;
     }
     if (parser.isSet(month))
-        return printMonth(parser.positionalArguments().value(0).toStdString(), *clock, calendar);
+        return printMonth(parser.positionalArguments().value(0).toStdString(), *clock, calendar, horizon);
 
     // One program per data folder; a screenshot runs beside it.
     SingleInstance instance(paths.documentsFolder());
@@ -171,14 +175,29 @@ int main(int argc, char** argv)
     notifier.setTray(delegate.tray());
     QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showWindow);
 
+    // A page of today moves on to the new day and shows the years just added; a day the person
+    // picked stays.
+    std::string today = DateTimePersian::init(*clock, calendar).getPersianDate();
+    const auto refreshToday = [&] {
+        MainViewController* root = delegate.rootViewController();
+        if (root->localDtp().getPersianDate() == today)
+            root->refresh();
+        today = DateTimePersian::init(*clock, calendar).getPersianDate();
+    };
+
     if (parser.isSet(screenshot)) {
         const QString file = parser.value(screenshot);
-        QTimer::singleShot(settleMilliseconds, &delegate, [&delegate, file] {
-            const bool saved = delegate.window()->grab().save(file, "PNG");
-            if (!saved)
-                std::fprintf(stderr, "kavenda: cannot write %s\n", qPrintable(file));
-            QCoreApplication::exit(saved ? 0 : 1);
+        // The first screen has settled when the coming years it may show are there too.
+        QObject::connect(&horizon, &HorizonKeeper::yearsAdded, &delegate, refreshToday);
+        QObject::connect(&horizon, &HorizonKeeper::settled, &delegate, [&delegate, file] {
+            QTimer::singleShot(settleMilliseconds, &delegate, [&delegate, file] {
+                const bool saved = delegate.window()->grab().save(file, "PNG");
+                if (!saved)
+                    std::fprintf(stderr, "kavenda: cannot write %s\n", qPrintable(file));
+                QCoreApplication::exit(saved ? 0 : 1);
+            });
         });
+        horizon.keepAhead(todayKey());
         // Beside a running program: nothing is announced from here.
         return app->exec();
     }
@@ -193,18 +212,19 @@ int main(int argc, char** argv)
             QObject::connect(box, &QDialog::finished, box, [&sound, ticket] { sound.stop(ticket); });
         status.refresh();
     });
-    std::string today = DateTimePersian::init(*clock, calendar).getPersianDate();
+    const auto catchUp = [&] {
+        MyNotification::initialize().update();
+        refreshToday();
+        status.refresh();
+    };
+    QObject::connect(&horizon, &HorizonKeeper::yearsAdded, &delegate, catchUp);
     Replanning replanning(
         *clock, calendar, log, [&notifications] { notifications.deliverDue(); },
         [&](ReplanWatch::Change) {
-            MyNotification::initialize().update();
-            // A page of today moves on to the new day; a day the person picked stays.
-            MainViewController* root = delegate.rootViewController();
-            if (root->localDtp().getPersianDate() == today)
-                root->refresh();
-            today = DateTimePersian::init(*clock, calendar).getPersianDate();
-            status.refresh();
+            catchUp();
+            horizon.keepAhead(todayKey());
         });
+    horizon.keepAhead(todayKey());
 
     return app->exec();
 }

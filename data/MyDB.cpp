@@ -123,8 +123,10 @@ int MyDB::loadDB()
 {
     close();
     const int result = sqlite3_open(dbPath_.c_str(), &database_);
-    if (result == SQLITE_OK)
+    if (result == SQLITE_OK) {
+        sqlite3_busy_timeout(database_, busyTimeoutMilliseconds);
         installNameMatching(database_);
+    }
     return result;
 }
 

@@ -1,8 +1,8 @@
+#include "almanac/DayCalendar.h"
 #include "calendar/DateTimePersian.h"
 #include "data/Format.h"
 #include "platform/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
-#include "tools/icons/DayCalendar.h"
 
 #include <gtest/gtest.h>
 
@@ -15,9 +15,9 @@ namespace {
 TEST(EngineAndGenerator, AgreeOnEveryDayOfTheShippedYears)
 {
     const IcuPersianCalendar calendar;
-    icons::DayCalendar days(1392);
+    almanac::DayCalendar days(1392);
     int walked = 0;
-    for (icons::CalendarDay d = days.current(); d.persianYear <= 1410; days.next(), d = days.current()) {
+    for (almanac::CalendarDay d = days.current(); d.persianYear <= 1410; days.next(), d = days.current()) {
         const std::string key = format("%d%02d%02d", {d.persianYear % 1300, d.persianMonth, d.persianDay});
         for (int hour : {0, 12, 23}) {
             const auto date = DateTimePersian::init(

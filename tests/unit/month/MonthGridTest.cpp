@@ -5,7 +5,7 @@
 #include "data/Format.h"
 #include "platform/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
-#include "tests/unit/icons/ShippedIcons.h"
+#include "tests/unit/database/ShippedIcons.h"
 
 #include <gtest/gtest.h>
 

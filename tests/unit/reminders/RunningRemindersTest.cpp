@@ -11,7 +11,7 @@
 #include "platform/ReminderQueue.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
-#include "tests/unit/icons/ShippedIcons.h"
+#include "tests/unit/database/ShippedIcons.h"
 
 #include <algorithm>
 #include <cstdlib>
