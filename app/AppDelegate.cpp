@@ -1,13 +1,13 @@
 #include "app/AppDelegate.h"
 
-#include "data/Format.h"
 #include "data/MyDB.h"
 #include "platform/Alerts.h"
 #include "platform/Log.h"
 #include "platform/Screen.h"
-#include "platform/qt/PresentationStack.h"
 #include "reminders/MyNotification.h"
 #include "screens/main/MainViewController.h"
+#include "text/Format.h"
+#include "widgets/PresentationStack.h"
 
 #include <QAction>
 #include <QApplication>
@@ -27,7 +27,7 @@ constexpr int screenWidth = 320;
 
 }  // namespace
 
-AppDelegate::AppDelegate(const Platform& services, DesktopNotify desktopNotify, QObject* parent)
+AppDelegate::AppDelegate(const AppServices& services, DesktopNotify desktopNotify, QObject* parent)
     : QObject(parent), services_(services), desktopNotify_(std::move(desktopNotify))
 {
     connect(qApp, &QCoreApplication::aboutToQuit, this, &AppDelegate::applicationWillTerminate);
@@ -53,7 +53,8 @@ bool AppDelegate::didFinishLaunchingWithOptions()
     MyNotification::initialize().update();
 
     root_ = new MainViewController({MyDB::initialize(), *services_.clock, *services_.calendar, *services_.screen,
-                                    *services_.paths, [] { MyNotification::initialize().update(); }},
+                                    *services_.paths, [] { MyNotification::initialize().update(); }, services_.log,
+                                    services_.audio, services_.alerts, services_.urls},
                                    *presentation_);
     presentation_->setRoot(root_);
     window_->installEventFilter(this);

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "app/AppServices.h"
 #include "platform/NotificationRecord.h"
-#include "platform/Platform.h"
 
 #include <QObject>
 
@@ -27,8 +27,8 @@ public:
     // Shows a notification on the desktop while the window is not active.
     using DesktopNotify = std::function<void(const NotificationRecord&)>;
 
-    // The services are the installed ones the shared database and scheduler are made from.
-    AppDelegate(const Platform& services, DesktopNotify desktopNotify, QObject* parent = nullptr);
+    // The shared database and scheduler are made from the same services.
+    AppDelegate(const AppServices& services, DesktopNotify desktopNotify, QObject* parent = nullptr);
     ~AppDelegate() override;
 
     bool didFinishLaunchingWithOptions();
@@ -55,7 +55,7 @@ private:
     void enterBackground();
     void enterForeground();
 
-    Platform services_;
+    AppServices services_;
     DesktopNotify desktopNotify_;
     std::unique_ptr<QWidget> window_;
     PresentationStack* presentation_ = nullptr;

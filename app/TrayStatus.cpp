@@ -2,8 +2,8 @@
 
 #include "platform/Clock.h"
 #include "platform/NotificationService.h"
-#include "platform/ReminderSound.h"
 #include "reminders/NextReminderText.h"
+#include "reminders/ReminderSound.h"
 
 #include <QAction>
 #include <QGuiApplication>

@@ -1,30 +1,31 @@
 #include "app/AppDelegate.h"
+#include "app/AppServices.h"
 #include "app/HorizonKeeper.h"
 #include "app/MonthCommand.h"
 #include "app/PersianFont.h"
 #include "app/PersianQtTexts.h"
 #include "app/ReminderList.h"
-#include "app/Replanning.h"
-#include "app/SingleInstance.h"
 #include "app/StartupFailure.h"
 #include "app/TrayStatus.h"
 #include "calendar/DateTimePersian.h"
 #include "data/DatabaseCheck.h"
 #include "data/MyDB.h"
-#include "platform/DeviceRandom.h"
-#include "platform/FixedScreen.h"
-#include "platform/IcuPersianCalendar.h"
-#include "platform/ReminderSound.h"
-#include "platform/ShiftedClock.h"
-#include "platform/StderrLog.h"
-#include "platform/SystemClock.h"
-#include "platform/qt/DesktopNotifier.h"
-#include "platform/qt/DesktopPaths.h"
-#include "platform/qt/DesktopUrlOpener.h"
-#include "platform/qt/LazyAudioPlayer.h"
-#include "platform/qt/MessageBoxAlerts.h"
-#include "platform/qt/QtNotificationService.h"
+#include "desktop/DesktopNotifier.h"
+#include "desktop/DesktopPaths.h"
+#include "desktop/DesktopUrlOpener.h"
+#include "desktop/DeviceRandom.h"
+#include "desktop/FixedScreen.h"
+#include "desktop/IcuPersianCalendar.h"
+#include "desktop/LazyAudioPlayer.h"
+#include "desktop/MessageBoxAlerts.h"
+#include "desktop/QtNotificationService.h"
+#include "desktop/Replanning.h"
+#include "desktop/ShiftedClock.h"
+#include "desktop/SingleInstance.h"
+#include "desktop/StderrLog.h"
+#include "desktop/SystemClock.h"
 #include "reminders/MyNotification.h"
+#include "reminders/ReminderSound.h"
 #include "screens/main/MainViewController.h"
 
 #include <QApplication>
@@ -132,9 +133,15 @@ int main(int argc, char** argv)
     DesktopUrlOpener urls;
     MessageBoxAlerts alerts;
     FixedScreen screen(parser.isSet(tall));
-    Platform::install({clock.get(), &calendar, &paths, &log, &notifications, &random, &audio, &urls, &alerts, &screen});
-    if (const auto problem = openSharedDatabase())
+    const AppServices services{clock.get(), &calendar, &paths, &log,    &notifications,
+                               &random,     &audio,    &urls,  &alerts, &screen};
+    // The shipped file is checked before the working copy is made from it.
+    if (const auto problem = shippedDatabaseProblem(paths.resourceFolder() / "Icons"))
         return reportStartupProblem(*problem, log);
+    MyDB::setUp(paths, log);
+    if (const auto problem = workingCopyProblem(MyDB::initialize().dbPath()))
+        return reportStartupProblem(*problem, log);
+    MyNotification::setUp(*clock, calendar, notifications, random, log);
     // The working copy holds the coming years as well: computed when fewer than 400 days lie ahead.
     HorizonKeeper horizon(MyDB::initialize().dbPath(), log);
     const auto todayKey = [&] { return std::stoi(DateTimePersian::init(*clock, calendar).getPersianDate()); };
@@ -167,8 +174,7 @@ int main(int argc, char** argv)
 
     ReminderSound sound(audio, paths, log);
     DesktopNotifier notifier(sound, paths);
-    AppDelegate delegate(Platform::installed(),
-                         [&notifier](const NotificationRecord& record) { notifier.notify(record); });
+    AppDelegate delegate(services, [&notifier](const NotificationRecord& record) { notifier.notify(record); });
     delegate.setStartsInBackground(parser.isSet(background));
     delegate.didFinishLaunchingWithOptions();
     alerts.setParent(delegate.window());

@@ -1,12 +1,12 @@
 // One single-row query through MyDB, which opens and closes the file on every call, beside
 // the same query on a connection held open: the ratio is the price of open-per-call.
-#include "data/Format.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
-#include "platform/FixedPaths.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/TempFolder.h"
+#include "text/Format.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>

@@ -2,18 +2,18 @@
 // database: through MyDB (open and close on every call) beside the same work on a connection
 // held open, which is the floor.
 #include "bench/OpenConnection.h"
-#include "data/Format.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
-#include "platform/FixedClock.h"
-#include "platform/FixedPaths.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "reminders/MyNotification.h"
+#include "tests/support/FixedClock.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
 #include "tests/support/TempFolder.h"
+#include "text/Format.h"
 
 #include <benchmark/benchmark.h>
 #include <sqlite3.h>

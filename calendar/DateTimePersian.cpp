@@ -2,11 +2,10 @@
 
 #include "calendar/TimeOfDay.h"
 
-#include "data/Format.h"
 #include "data/IntValue.h"
 #include "platform/Clock.h"
 #include "platform/PersianCalendar.h"
-#include "platform/Platform.h"
+#include "text/Format.h"
 
 #include <array>
 
@@ -45,12 +44,6 @@ int newYearDay(int persianYear, const PersianCalendar& calendar)
 
 }  // namespace
 
-DateTimePersian DateTimePersian::init()
-{
-    const Platform& platform = Platform::installed();
-    return init(*platform.clock, *platform.calendar);
-}
-
 DateTimePersian DateTimePersian::init(const Clock& clock, const PersianCalendar& calendar)
 {
     return init(clock.now(), calendar);
@@ -88,11 +81,6 @@ DateTimePersian DateTimePersian::init(Instant instant, const PersianCalendar& ca
         ++month;
     }
     return DateTimePersian(year, month, rest, dayOfYear);
-}
-
-DateTimePersian DateTimePersian::initWithPersianDate(std::string_view key)
-{
-    return initWithPersianDate(key, *Platform::installed().calendar);
 }
 
 DateTimePersian DateTimePersian::initWithPersianDate(std::string_view key, const PersianCalendar& calendar)

@@ -15,14 +15,12 @@ class PersianCalendar;
 // shifts stored times for display.
 class DateTimePersian {
 public:
-    // Today, by the installed platform's clock and calendar.
-    static DateTimePersian init();
+    // Today, by the clock and the calendar.
     static DateTimePersian init(const Clock& clock, const PersianCalendar& calendar);
     // The Persian date of an instant in the device's time zone.
     static DateTimePersian init(Instant instant, const PersianCalendar& calendar);
     // From a date key: the day is the last two characters, the month the two before, the
     // year the rest, so keys of 1400 on (seven characters) read back as well.
-    static DateTimePersian initWithPersianDate(std::string_view key);
     static DateTimePersian initWithPersianDate(std::string_view key, const PersianCalendar& calendar);
 
     // "%d%02d%02d" of (year mod 1300, month, day).

@@ -1,9 +1,5 @@
 #include "data/DatabaseCheck.h"
 
-#include "data/MyDB.h"
-#include "platform/Paths.h"
-#include "platform/Platform.h"
-
 #include <sqlite3.h>
 
 #include <array>
@@ -64,14 +60,6 @@ std::optional<StartupProblem> workingCopyProblem(const std::filesystem::path& wo
                               + "; move the file aside and start again to begin with a fresh copy",
                           "پرونده داده های شما جدول های لازم را ندارد:\n" + workingCopy.string()
                               + "\nآن را به جای دیگری ببرید و برنامه را دوباره باز کنید تا با نسخه تازه ای آغاز شود."};
-}
-
-std::optional<StartupProblem> openSharedDatabase()
-{
-    const Paths& paths = *Platform::installed().paths;
-    if (auto problem = shippedDatabaseProblem(paths.resourceFolder() / "Icons"))
-        return problem;
-    return workingCopyProblem(MyDB::initialize().dbPath());
 }
 
 }  // namespace kavenda

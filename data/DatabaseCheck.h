@@ -16,7 +16,5 @@ struct StartupProblem {
 std::optional<StartupProblem> shippedDatabaseProblem(const std::filesystem::path& shipped);
 // A working copy without the tables is left as it is: the user decides what becomes of it.
 std::optional<StartupProblem> workingCopyProblem(const std::filesystem::path& workingCopy);
-// Makes the shared database once the shipped one has passed, then checks its working copy.
-std::optional<StartupProblem> openSharedDatabase();
 
 }  // namespace kavenda

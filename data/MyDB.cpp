@@ -3,7 +3,7 @@
 #include "data/NameMatching.h"
 #include "platform/Log.h"
 #include "platform/Paths.h"
-#include "platform/Platform.h"
+#include <cassert>
 
 #include <sqlite3.h>
 
@@ -50,10 +50,22 @@ bool syncToDisk(const fs::path& path)
 
 }  // namespace
 
+namespace {
+const Paths* sharedPaths = nullptr;
+Log* sharedLog = nullptr;
+}  // namespace
+
 MyDB& MyDB::initialize()
 {
-    static MyDB shared("Icons", *Platform::installed().paths, *Platform::installed().log);
+    assert(sharedPaths && sharedLog && "the shell sets up the database at start");
+    static MyDB shared("Icons", *sharedPaths, *sharedLog);
     return shared;
+}
+
+void MyDB::setUp(const Paths& paths, Log& log)
+{
+    sharedPaths = &paths;
+    sharedLog = &log;
 }
 
 MyDB::MyDB(std::string fileName, const Paths& paths, Log& log)

@@ -18,8 +18,9 @@ class Paths;
 // documents folder, opened and closed again by every call. Nothing is raised to callers.
 class MyDB {
 public:
-    // The shared instance, made on the first call from the installed platform services.
+    // The program's shared instance, made on the first call from what the shell gave at start.
     static MyDB& initialize();
+    static void setUp(const Paths& paths, Log& log);
 
     // Makes the working copy when none exists yet, or when an empty file stands in its place.
     MyDB(std::string fileName, const Paths& paths, Log& log);

@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-// Every statement the program runs, as format texts for formatSql (data/Format.h).
+// Every statement the program runs, as format texts for formatSql (text/Format.h).
 // The texts are kept letter for letter, doubled spaces included.
 namespace kavenda::sql {
 

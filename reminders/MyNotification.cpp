@@ -2,8 +2,6 @@
 
 #include "calendar/DateTimePersian.h"
 #include "calendar/TimeOfDay.h"
-#include "calendar/Utility.h"
-#include "data/Format.h"
 #include "data/IntValue.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
@@ -11,8 +9,10 @@
 #include "platform/Log.h"
 #include "platform/NotificationService.h"
 #include "platform/PersianCalendar.h"
-#include "platform/Platform.h"
 #include "platform/Random.h"
+#include "text/Format.h"
+#include "text/Utility.h"
+#include <cassert>
 
 #include <algorithm>
 #include <array>
@@ -66,12 +66,30 @@ std::string valueOf(const RowSet& rows, std::size_t row, const std::string& colu
 
 }  // namespace
 
+namespace {
+
+struct Services {
+    const Clock* clock = nullptr;
+    const PersianCalendar* calendar = nullptr;
+    NotificationService* notifications = nullptr;
+    Random* random = nullptr;
+    Log* log = nullptr;
+} shared;
+
+}  // namespace
+
 MyNotification& MyNotification::initialize()
 {
-    const Platform& platform = Platform::installed();
-    static MyNotification shared(MyDB::initialize(), *platform.clock, *platform.calendar, *platform.notifications,
-                                 *platform.random, *platform.log);
-    return shared;
+    assert(shared.clock && "the shell sets up the notifications at start");
+    static MyNotification instance(MyDB::initialize(), *shared.clock, *shared.calendar, *shared.notifications,
+                                   *shared.random, *shared.log);
+    return instance;
+}
+
+void MyNotification::setUp(const Clock& clock, const PersianCalendar& calendar, NotificationService& notifications,
+                           Random& random, Log& log)
+{
+    shared = {&clock, &calendar, &notifications, &random, &log};
 }
 
 MyNotification::MyNotification(MyDB& db, const Clock& clock, const PersianCalendar& calendar,

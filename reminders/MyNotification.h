@@ -20,8 +20,11 @@ class Random;
 // prayer-time reminders of the first chosen city for the next few days.
 class MyNotification {
 public:
-    // The shared instance, made on the first call from the installed platform services.
+    // The program's shared instance on the shared database, made on the first call from what
+    // the shell gave at start.
     static MyNotification& initialize();
+    static void setUp(const Clock& clock, const PersianCalendar& calendar, NotificationService& notifications,
+                      Random& random, Log& log);
 
     MyNotification(MyDB& db, const Clock& clock, const PersianCalendar& calendar, NotificationService& notifications,
                    Random& random, Log& log);

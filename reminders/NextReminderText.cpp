@@ -1,8 +1,8 @@
 #include "reminders/NextReminderText.h"
 
-#include "calendar/Utility.h"
-#include "data/Format.h"
 #include "platform/PersianCalendar.h"
+#include "text/Format.h"
+#include "text/Utility.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 #include "screens/calendar/CalendarViewController.h"
 
-#include "platform/qt/Animations.h"
 #include "screens/calendar/CalendarViewControllerDelegate.h"
 #include "screens/calendar/DayButton.h"
 #include "ui_CalendarViewController.h"
+#include "widgets/Animations.h"
 
 #include <QLabel>
 #include <QListWidget>

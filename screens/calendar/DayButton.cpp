@@ -1,9 +1,9 @@
 #include "screens/calendar/DayButton.h"
 
-#include "calendar/Utility.h"
-#include "data/Format.h"
-#include "platform/qt/AccessibleFactory.h"
 #include "screens/calendar/DayButtonAccessible.h"
+#include "text/Format.h"
+#include "text/Utility.h"
+#include "widgets/AccessibleFactory.h"
 
 #include <QPainter>
 #include <QPixmapCache>

@@ -1,8 +1,8 @@
 #include "screens/calendar/MonthGrid.h"
 
-#include "data/Format.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
+#include "text/Format.h"
 
 #include <algorithm>
 

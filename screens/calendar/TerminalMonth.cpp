@@ -1,11 +1,11 @@
 #include "screens/calendar/TerminalMonth.h"
 
 #include "calendar/DateTimePersian.h"
-#include "calendar/Utility.h"
-#include "data/Format.h"
 #include "data/MyDB.h"
 #include "screens/calendar/MonthGrid.h"
 #include "screens/calendar/MonthShape.h"
+#include "text/Format.h"
+#include "text/Utility.h"
 
 #include <algorithm>
 #include <cctype>

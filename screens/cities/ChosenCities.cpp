@@ -1,10 +1,10 @@
 #include "screens/cities/ChosenCities.h"
 
-#include "data/Format.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
 #include "screens/cities/PlaceRows.h"
 #include "screens/cities/SelectionControllerDelegate.h"
+#include "text/Format.h"
 
 #include <algorithm>
 #include <utility>

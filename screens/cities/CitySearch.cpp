@@ -1,12 +1,12 @@
 #include "screens/cities/CitySearch.h"
 
-#include "calendar/Utility.h"
-#include "data/Format.h"
 #include "data/IntValue.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
 #include "screens/cities/PlaceRows.h"
 #include "screens/cities/SearchControllerDelegate.h"
+#include "text/Format.h"
+#include "text/Utility.h"
 
 namespace kavenda {
 

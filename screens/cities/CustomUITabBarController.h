@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/qt/TabBarController.h"
+#include "widgets/TabBarController.h"
 
 namespace kavenda {
 

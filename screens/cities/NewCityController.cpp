@@ -1,11 +1,11 @@
 #include "screens/cities/NewCityController.h"
 
-#include "calendar/Utility.h"
-#include "platform/qt/NavigationStack.h"
 #include "screens/cities/CitySearch.h"
 #include "screens/cities/OffsetSlider.h"
 #include "screens/cities/SearchController.h"
+#include "text/Utility.h"
 #include "ui_NewCityController.h"
+#include "widgets/NavigationStack.h"
 
 #include <QEvent>
 #include <QFrame>

@@ -1,15 +1,13 @@
 #include "screens/cities/OptionsViewController.h"
 
 #include "data/MyDB.h"
-#include "platform/Platform.h"
-#include "platform/qt/NavigationStack.h"
-#include "reminders/MyNotification.h"
 #include "screens/cities/SelectionController.h"
 #include "screens/preferences/AboutController.h"
 #include "screens/preferences/HistoryViewController.h"
 #include "screens/preferences/SettingController.h"
 #include "screens/preferences/SoundsViewController.h"
 #include "ui_OptionsViewController.h"
+#include "widgets/NavigationStack.h"
 
 #include <utility>
 
@@ -26,14 +24,8 @@ template <typename Screen> void showInStack(NavigationStack* stack, Screen* scre
 
 }  // namespace
 
-OptionsViewController::OptionsViewController(QWidget* parent)
-    : OptionsViewController(
-        MyDB::initialize(), [] { MyNotification::initialize().update(); }, parent)
-{
-}
-
-OptionsViewController::OptionsViewController(MyDB& db, std::function<void()> rebuildReminders, QWidget* parent)
-    : QWidget(parent), db_(db), rebuildReminders_(std::move(rebuildReminders))
+OptionsViewController::OptionsViewController(Services services, QWidget* parent)
+    : QWidget(parent), services_(std::move(services))
 {
 }
 
@@ -43,15 +35,13 @@ CustomUITabBarController* OptionsViewController::tabBarControl()
         return tabBarControl_;
     Ui::OptionsViewController layout;
     layout.setupUi(this);
-    layout.citiesNavigation->push(new SelectionController(db_, rebuildReminders_), false);
-    const Platform& services = Platform::installed();
-    showInStack(layout.settingsNavigation, new SettingController(db_));
-    if (services.paths) {
-        showInStack(layout.soundsNavigation,
-                    new SoundsViewController(db_, *services.paths, services.audio, services.alerts));
-        showInStack(layout.historyNavigation, new HistoryViewController(db_, *services.paths, services.log));
-    }
-    layout.aboutNavigation->push(new AboutController(AboutRows::shipped(), services.urls), false);
+    MyDB& db = services_.db;
+    layout.citiesNavigation->push(new SelectionController(db, services_.rebuildReminders, services_.urls), false);
+    showInStack(layout.settingsNavigation, new SettingController(db));
+    showInStack(layout.soundsNavigation,
+                new SoundsViewController(db, services_.paths, services_.audio, services_.alerts));
+    showInStack(layout.historyNavigation, new HistoryViewController(db, services_.paths, services_.log));
+    layout.aboutNavigation->push(new AboutController(AboutRows::shipped(), services_.urls), false);
     tabBarControl_ = layout.tabBarControl;
     // The tab bar is presented on its own and lives as long as it is shown; the loader goes with it.
     tabBarControl_->setParent(nullptr);

@@ -7,8 +7,13 @@
 
 namespace kavenda {
 
+class Alerts;
+class AudioPlayer;
 class CustomUITabBarController;
+class Log;
 class MyDB;
+class Paths;
+class UrlOpener;
 
 // Builds the options' tab bar from its layout and hands it out; the tab bar is what gets
 // presented. Once built, the tab bar owns this loader.
@@ -16,17 +21,24 @@ class OptionsViewController : public QWidget {
     Q_OBJECT
 
 public:
-    // On the shared database, rebuilding the shared reminders on Done.
-    explicit OptionsViewController(QWidget* parent = nullptr);
-    OptionsViewController(MyDB& db, std::function<void()> rebuildReminders, QWidget* parent = nullptr);
+    struct Services {
+        MyDB& db;
+        const Paths& paths;
+        std::function<void()> rebuildReminders;
+        Log* log = nullptr;
+        AudioPlayer* audio = nullptr;
+        Alerts* alerts = nullptr;
+        UrlOpener* urls = nullptr;
+    };
+
+    explicit OptionsViewController(Services services, QWidget* parent = nullptr);
 
     // Loads the layout on the first call only.
     CustomUITabBarController* tabBarControl();
     void setTabBarControl(CustomUITabBarController* tabBar) { tabBarControl_ = tabBar; }
 
 private:
-    MyDB& db_;
-    std::function<void()> rebuildReminders_;
+    Services services_;
     QPointer<CustomUITabBarController> tabBarControl_;
 };
 

@@ -1,8 +1,8 @@
 #include "screens/cities/SearchController.h"
 
-#include "platform/qt/RowChoice.h"
 #include "screens/cities/SearchControllerDelegate.h"
 #include "ui_SearchController.h"
+#include "widgets/RowChoice.h"
 
 #include <QShortcut>
 #include <QToolButton>

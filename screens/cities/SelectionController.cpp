@@ -1,15 +1,14 @@
 #include "screens/cities/SelectionController.h"
 
-#include "platform/Platform.h"
 #include "platform/UrlOpener.h"
-#include "platform/qt/NavigationStack.h"
-#include "platform/qt/RowChoice.h"
 #include "screens/cities/CitySearch.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
 #include "screens/cities/NewCityController.h"
 #include "screens/cities/RoundedCorners.h"
 #include "screens/cities/SearchController.h"
+#include "widgets/NavigationStack.h"
+#include "widgets/RowChoice.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -79,10 +78,11 @@ QListWidget* makeCreateRow(QWidget* parent)
 
 }  // namespace
 
-SelectionController::SelectionController(MyDB& db, std::function<void()> rebuildReminders, QWidget* parent)
-    : QWidget(parent), db_(db), cities_(db, std::move(rebuildReminders)), tblScrollView_(new QScrollArea(this)),
-      listHolder_(new QWidget), tbl_(new EditableCityList(listHolder_)), btnSearch_(new QPushButton(tr("جستجو"), this)),
-      btnDone_(new QPushButton(tr("تمام"), this))
+SelectionController::SelectionController(MyDB& db, std::function<void()> rebuildReminders, UrlOpener* urls,
+                                         QWidget* parent)
+    : QWidget(parent), db_(db), urls_(urls), cities_(db, std::move(rebuildReminders)),
+      tblScrollView_(new QScrollArea(this)), listHolder_(new QWidget), tbl_(new EditableCityList(listHolder_)),
+      btnSearch_(new QPushButton(tr("جستجو"), this)), btnDone_(new QPushButton(tr("تمام"), this))
 {
     setWindowTitle(tr("شهرها"));
     setAutoFillBackground(true);
@@ -153,8 +153,8 @@ void SelectionController::Done()
 
 void SelectionController::ShowWebSite()
 {
-    if (UrlOpener* urls = Platform::installed().urls)
-        urls->open(KAVENDA_HOMEPAGE);
+    if (urls_)
+        urls_->open(KAVENDA_HOMEPAGE);
 }
 
 void SelectionController::SearchControllerShow()

@@ -19,13 +19,15 @@ class EditableCityList;
 class MyDB;
 class NavigationStack;
 class SelectionControllerDelegate;
+class UrlOpener;
 
 // The chosen cities, always editable: remove, reorder, add through the search, and Done.
 class SelectionController : public QWidget, public SearchControllerDelegate {
     Q_OBJECT
 
 public:
-    SelectionController(MyDB& db, std::function<void()> rebuildReminders, QWidget* parent = nullptr);
+    SelectionController(MyDB& db, std::function<void()> rebuildReminders, UrlOpener* urls = nullptr,
+                        QWidget* parent = nullptr);
 
     void updateDataSource();
     void Done();
@@ -59,6 +61,7 @@ private:
     CustomUITabBarController* tabBarController() const;
 
     MyDB& db_;
+    UrlOpener* urls_;
     ChosenCities cities_;
     QScrollArea* tblScrollView_;
     QWidget* listHolder_;

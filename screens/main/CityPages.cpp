@@ -1,10 +1,10 @@
 #include "screens/main/CityPages.h"
 
 #include "calendar/DateTimePersian.h"
-#include "data/Format.h"
 #include "data/IntValue.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
+#include "text/Format.h"
 
 #include <cmath>
 

@@ -1,9 +1,9 @@
 #include "screens/main/CustomUIImageView.h"
 
-#include "platform/qt/AccessibleFactory.h"
 #include "screens/main/CustomUIImageViewAccessible.h"
 #include "screens/main/DayPage.h"
 #include "screens/main/ShadowedLabel.h"
+#include "widgets/AccessibleFactory.h"
 
 #include <QPainter>
 #include <QPalette>

@@ -1,10 +1,10 @@
 #include "screens/main/DayPage.h"
 
 #include "calendar/DateTimePersian.h"
-#include "calendar/Utility.h"
-#include "data/Format.h"
 #include "screens/main/CityPages.h"
 #include "screens/main/TimeCaptions.h"
+#include "text/Format.h"
+#include "text/Utility.h"
 
 namespace kavenda {
 

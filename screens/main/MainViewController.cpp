@@ -2,14 +2,16 @@
 
 #include "platform/Paths.h"
 #include "platform/Screen.h"
-#include "platform/qt/PageIndicator.h"
-#include "platform/qt/Pager.h"
-#include "platform/qt/PresentationStack.h"
 #include "screens/calendar/CalendarViewController.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/OptionsViewController.h"
 #include "screens/main/CustomUIImageView.h"
 #include "screens/main/DayPage.h"
+#include "text/Format.h"
+#include "text/Utility.h"
+#include "widgets/PageIndicator.h"
+#include "widgets/Pager.h"
+#include "widgets/PresentationStack.h"
 
 #include <QPalette>
 #include <QToolButton>
@@ -77,6 +79,9 @@ void MainViewController::viewDidLoad()
     connect(scrollView_, &Pager::didScroll, this, &MainViewController::scrollViewDidScroll);
 
     pageControl_ = new PageIndicator(this);
+    pageControl_->setPageText([](int page, int pages) {
+        return QString::fromStdString(Utility::ConvertToPersian(format("صفحه %d از %d", {page + 1, pages})));
+    });
     pageControl_->setGeometry(0, 425 + shift, 320, 36);
     connect(pageControl_, &PageIndicator::valueChanged, this, &MainViewController::pageAction);
 
@@ -157,7 +162,8 @@ void MainViewController::Bind()
 
 void MainViewController::showSelector()
 {
-    auto* options = new OptionsViewController(services_.db, services_.rebuildReminders);
+    auto* options = new OptionsViewController({services_.db, services_.paths, services_.rebuildReminders, services_.log,
+                                               services_.audio, services_.alerts, services_.urls});
     CustomUITabBarController* tabs = options->tabBarControl();
     tabs->setParentDelegate(this);
     presentation_.present(tabs, true);

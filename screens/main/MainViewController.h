@@ -14,7 +14,10 @@ class QAbstractButton;
 
 namespace kavenda {
 
+class Alerts;
+class AudioPlayer;
 class Clock;
+class Log;
 class MyDB;
 class Pager;
 class PageIndicator;
@@ -22,6 +25,7 @@ class Paths;
 class PersianCalendar;
 class PresentationStack;
 class Screen;
+class UrlOpener;
 
 // The root screen: one day page per chosen city in a pager, the last city of the user's list
 // on the left, opening on the first city; buttons for the options and the month calendar.
@@ -37,6 +41,11 @@ public:
         const Paths& paths;
         // What the options' Done runs before they close.
         std::function<void()> rebuildReminders;
+        // The options' own services; a screen without one leaves its feature out.
+        Log* log = nullptr;
+        AudioPlayer* audio = nullptr;
+        Alerts* alerts = nullptr;
+        UrlOpener* urls = nullptr;
     };
 
     // The presentation stack is the one this screen is the root of; it shows the options.

@@ -1,7 +1,7 @@
 #include "screens/preferences/AboutController.h"
 
-#include "platform/qt/RowChoice.h"
 #include "ui_AboutController.h"
+#include "widgets/RowChoice.h"
 
 #include <QListWidget>
 

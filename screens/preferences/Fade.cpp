@@ -1,6 +1,6 @@
 #include "screens/preferences/Fade.h"
 
-#include "platform/qt/Animations.h"
+#include "widgets/Animations.h"
 
 #include <QGraphicsOpacityEffect>
 #include <QPointer>

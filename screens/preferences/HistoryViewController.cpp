@@ -1,10 +1,10 @@
 #include "screens/preferences/HistoryViewController.h"
 
 #include "platform/Paths.h"
-#include "platform/qt/ToggleSwitch.h"
 #include "screens/preferences/Fade.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_HistoryViewController.h"
+#include "widgets/ToggleSwitch.h"
 
 #include <QLabel>
 #include <QLocale>

@@ -1,10 +1,10 @@
 #include "screens/preferences/OccasionTime.h"
 
-#include "data/Format.h"
 #include "data/IntValue.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
 #include "platform/Log.h"
+#include "text/Format.h"
 
 #include <algorithm>
 

@@ -1,10 +1,10 @@
 #include "screens/preferences/ReminderSettings.h"
 
-#include "calendar/Utility.h"
-#include "data/Format.h"
 #include "data/IntValue.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
+#include "text/Format.h"
+#include "text/Utility.h"
 
 #include <algorithm>
 

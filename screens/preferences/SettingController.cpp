@@ -1,11 +1,11 @@
 #include "screens/preferences/SettingController.h"
 
 #include "data/MyDB.h"
-#include "platform/qt/Animations.h"
-#include "platform/qt/ToggleSwitch.h"
 #include "screens/preferences/Fade.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SettingController.h"
+#include "widgets/Animations.h"
+#include "widgets/ToggleSwitch.h"
 
 #include <QFrame>
 #include <QHBoxLayout>

@@ -1,11 +1,11 @@
 #include "screens/preferences/SoundChoice.h"
 
-#include "data/Format.h"
 #include "data/IntValue.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
 #include "platform/AudioPlayer.h"
-#include "platform/SoundFiles.h"
+#include "reminders/SoundFiles.h"
+#include "text/Format.h"
 
 #include <array>
 #include <system_error>

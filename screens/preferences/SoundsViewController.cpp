@@ -1,10 +1,10 @@
 #include "screens/preferences/SoundsViewController.h"
 
+#include "desktop/AudioModule.h"
 #include "platform/Alerts.h"
-#include "platform/qt/AudioModule.h"
-#include "platform/qt/RowChoice.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SoundsViewController.h"
+#include "widgets/RowChoice.h"
 
 #include <QDir>
 #include <QFileDialog>

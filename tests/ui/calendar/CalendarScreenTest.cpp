@@ -2,14 +2,14 @@
 // database (1392 is the official calendar of that year).
 #include "app/PersianFont.h"
 #include "calendar/DateTimePersian.h"
-#include "platform/SystemClock.h"
-#include "platform/qt/Animations.h"
-#include "platform/qt/PresentationStack.h"
+#include "desktop/SystemClock.h"
 #include "screens/calendar/CalendarViewController.h"
 #include "screens/calendar/DayButton.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/TehranTime.h"
 #include "tests/ui/main/MainScreenFixture.h"
+#include "widgets/Animations.h"
+#include "widgets/PresentationStack.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

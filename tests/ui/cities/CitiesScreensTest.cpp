@@ -1,10 +1,5 @@
 #include "app/PersianFont.h"
-#include "platform/Platform.h"
 #include "platform/UrlOpener.h"
-#include "platform/qt/Animations.h"
-#include "platform/qt/FlipTransition.h"
-#include "platform/qt/NavigationStack.h"
-#include "platform/qt/PresentationStack.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
 #include "screens/cities/OptionsViewController.h"
@@ -12,6 +7,10 @@
 #include "screens/cities/SearchControllerDelegate.h"
 #include "screens/cities/SelectionController.h"
 #include "tests/ui/cities/OptionsFixture.h"
+#include "widgets/Animations.h"
+#include "widgets/FlipTransition.h"
+#include "widgets/NavigationStack.h"
+#include "widgets/PresentationStack.h"
 
 #include <QAccessible>
 #include <QLineEdit>
@@ -132,7 +131,10 @@ private slots:
     void theLayoutIsLoadedOnceWithFiveTabs()
     {
         OptionsFixture f;
-        auto* options = new OptionsViewController(f.db(), [] {});
+        test::RecordingLog log;
+        const std::filesystem::path folder = std::filesystem::path(f.db().dbPath()).parent_path();
+        FixedPaths paths(folder, folder);
+        auto* options = new OptionsViewController({f.db(), paths, [] {}, &log});
         CustomUITabBarController* tabs = options->tabBarControl();
         QCOMPARE(options->tabBarControl(), tabs);
         QCOMPARE(tabs->findChildren<SelectionController*>().size(), 1);
@@ -430,15 +432,10 @@ private slots:
     void theWebSiteOpensInTheBrowser()
     {
         RecordingUrlOpener urls;
-        const Platform before = Platform::installed();
-        Platform services;
-        services.urls = &urls;
-        Platform::install(services);
         OptionsFixture f;
-        f.open();
+        f.open({.urls = &urls});
         // By name, as a control of a layout calls it.
         QVERIFY(QMetaObject::invokeMethod(f.selection(), "ShowWebSite"));
-        Platform::install(before);
         QCOMPARE(urls.opened, std::vector<std::string>{KAVENDA_HOMEPAGE});
         QVERIFY(QString::fromStdString(urls.opened.front()).startsWith(QStringLiteral("https://")));
     }

@@ -1,12 +1,12 @@
 #include "app/PersianFont.h"
-#include "platform/qt/Animations.h"
-#include "platform/qt/NavigationStack.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/NewCityController.h"
 #include "screens/cities/OffsetSlider.h"
 #include "screens/cities/SearchController.h"
 #include "screens/cities/SelectionController.h"
 #include "tests/ui/cities/OptionsFixture.h"
+#include "widgets/Animations.h"
+#include "widgets/NavigationStack.h"
 
 #include <QAccessible>
 #include <QLabel>

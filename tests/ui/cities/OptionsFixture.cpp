@@ -1,7 +1,5 @@
 #include "tests/ui/cities/OptionsFixture.h"
 
-#include "platform/qt/NavigationStack.h"
-#include "platform/qt/PresentationStack.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
 #include "screens/cities/OptionsViewController.h"
@@ -9,6 +7,8 @@
 #include "screens/cities/SelectionController.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/TehranTime.h"
+#include "widgets/NavigationStack.h"
+#include "widgets/PresentationStack.h"
 
 #include <QDir>
 #include <QLabel>
@@ -52,9 +52,11 @@ void OptionsFixture::choose(std::initializer_list<int> stateIds)
                                     + std::to_string(ordering++) + ")"));
 }
 
-void OptionsFixture::open()
+void OptionsFixture::open(OptionServices services)
 {
-    auto* options = new OptionsViewController(db_, [this] { reminders_.update(); });
+    auto* options = new OptionsViewController({db_, services.paths ? *services.paths : paths_,
+                                               [this] { reminders_.update(); }, services.log ? services.log : &log_,
+                                               services.audio, services.alerts, services.urls});
     tabs_ = options->tabBarControl();
     tabs_->setParentDelegate(this);
     presentation_->present(tabs_, true);

@@ -1,11 +1,11 @@
 #pragma once
 
 #include "data/MyDB.h"
-#include "platform/FixedClock.h"
-#include "platform/FixedPaths.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "reminders/MyNotification.h"
 #include "screens/cities/SelectionControllerDelegate.h"
+#include "tests/support/FixedClock.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
@@ -21,13 +21,25 @@ class QWidget;
 
 namespace kavenda {
 
+class Alerts;
+class AudioPlayer;
 class CustomUITabBarController;
+class UrlOpener;
 class NavigationStack;
 class PresentationStack;
 class SearchController;
 class SelectionController;
 
 namespace test {
+
+// What the options are handed besides the database: the fixture's own paths and log unless given.
+struct OptionServices {
+    const Paths* paths = nullptr;
+    Log* log = nullptr;
+    AudioPlayer* audio = nullptr;
+    Alerts* alerts = nullptr;
+    UrlOpener* urls = nullptr;
+};
 
 // The options presented over a stand-in main screen, on a fixture database, with real
 // reminders recorded by a fake notification service.
@@ -38,7 +50,7 @@ public:
 
     // Chooses cities in this order (Ordering 0, 1, ...).
     void choose(std::initializer_list<int> stateIds);
-    void open();
+    void open(OptionServices services = {});
 
     void closeForm() override;
 

@@ -1,20 +1,22 @@
 #include "app/AppDelegate.h"
+#include "app/AppServices.h"
 #include "data/MyDB.h"
+#include "desktop/FixedScreen.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "platform/Alerts.h"
-#include "platform/FixedClock.h"
-#include "platform/FixedPaths.h"
-#include "platform/FixedScreen.h"
-#include "platform/IcuPersianCalendar.h"
-#include "platform/qt/Animations.h"
-#include "platform/qt/PageIndicator.h"
-#include "platform/qt/Pager.h"
+#include "reminders/MyNotification.h"
 #include "screens/main/MainViewController.h"
+#include "tests/support/FixedClock.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
 #include "tests/support/TempFolder.h"
+#include "widgets/Animations.h"
+#include "widgets/PageIndicator.h"
+#include "widgets/Pager.h"
 
 #include <QSignalSpy>
 #include <QtTest>
@@ -57,10 +59,11 @@ private slots:
         test::execSql(
             database,
             "INSERT INTO tSelectedStates VALUES(32, 0); UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1;");
-        Platform::install(
-            {&clock, &calendar, &paths, &log, &notifications, &random, nullptr, nullptr, &alerts, &screen});
+        MyDB::setUp(paths, log);
+        MyNotification::setUp(clock, calendar, notifications, random, log);
         delegate = std::make_unique<AppDelegate>(
-            Platform::installed(), [this](const NotificationRecord& record) { desktop.push_back(record); });
+            AppServices{&clock, &calendar, &paths, &log, &notifications, &random, nullptr, nullptr, &alerts, &screen},
+            [this](const NotificationRecord& record) { desktop.push_back(record); });
     }
 
     void launchCopiesTheDatabaseRebuildsTheRemindersAndShowsTheMainScreen()

@@ -1,12 +1,12 @@
 #include "tests/ui/main/MainScreenFixture.h"
 
-#include "data/Format.h"
 #include "data/Statements.h"
-#include "platform/qt/Pager.h"
-#include "platform/qt/PresentationStack.h"
 #include "screens/main/CustomUIImageView.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/FixtureDatabase.h"
+#include "text/Format.h"
+#include "widgets/Pager.h"
+#include "widgets/PresentationStack.h"
 
 #include <QDir>
 #include <QFontDatabase>

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "data/MyDB.h"
-#include "platform/FixedClock.h"
-#include "platform/FixedPaths.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "platform/Screen.h"
+#include "tests/support/FixedClock.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/TempFolder.h"
 

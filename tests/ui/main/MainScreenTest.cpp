@@ -1,15 +1,15 @@
 #include "app/PersianFont.h"
 #include "calendar/DateTimePersian.h"
-#include "platform/SystemClock.h"
-#include "platform/qt/Animations.h"
-#include "platform/qt/PageIndicator.h"
-#include "platform/qt/Pager.h"
-#include "platform/qt/PresentationStack.h"
+#include "desktop/SystemClock.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/main/CustomUIImageView.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/TehranTime.h"
 #include "tests/ui/main/MainScreenFixture.h"
+#include "widgets/Animations.h"
+#include "widgets/PageIndicator.h"
+#include "widgets/Pager.h"
+#include "widgets/PresentationStack.h"
 
 #include <QAbstractButton>
 #include <QAccessible>

@@ -1,8 +1,4 @@
 #include "app/PersianFont.h"
-#include "platform/qt/Animations.h"
-#include "platform/qt/NavigationStack.h"
-#include "platform/qt/Pager.h"
-#include "platform/qt/PresentationStack.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/NewCityController.h"
 #include "screens/cities/OffsetSlider.h"
@@ -11,6 +7,10 @@
 #include "screens/main/MainViewController.h"
 #include "tests/support/TehranTime.h"
 #include "tests/ui/main/MainScreenFixture.h"
+#include "widgets/Animations.h"
+#include "widgets/NavigationStack.h"
+#include "widgets/Pager.h"
+#include "widgets/PresentationStack.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>

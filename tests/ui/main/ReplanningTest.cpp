@@ -1,6 +1,6 @@
-#include "app/Replanning.h"
-#include "platform/FixedClock.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/Replanning.h"
+#include "desktop/IcuPersianCalendar.h"
+#include "tests/support/FixedClock.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/TehranTime.h"
 

@@ -1,20 +1,19 @@
 #include "app/PersianFont.h"
-#include "platform/FixedPaths.h"
-#include "platform/Platform.h"
-#include "platform/qt/Animations.h"
-#include "platform/qt/NavigationStack.h"
-#include "platform/qt/ToggleSwitch.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/SelectionController.h"
 #include "screens/preferences/AboutController.h"
 #include "screens/preferences/HistoryViewController.h"
 #include "screens/preferences/SettingController.h"
 #include "screens/preferences/SoundsViewController.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/RecordingAlerts.h"
 #include "tests/support/RecordingAudioPlayer.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingUrlOpener.h"
 #include "tests/ui/cities/OptionsFixture.h"
+#include "widgets/Animations.h"
+#include "widgets/NavigationStack.h"
+#include "widgets/ToggleSwitch.h"
 
 #include <QFileDialog>
 #include <QLabel>
@@ -57,10 +56,8 @@ struct Preferences : RecordedServices, OptionsFixture {
         if (!settings.empty())
             QVERIFY(db().ExecuteNonQuery("UPDATE tSetting SET " + settings));
         paths.emplace(std::filesystem::path(db().dbPath()).parent_path(), shippedResources);
-        Platform::install({nullptr, nullptr, &*paths, &log, nullptr, nullptr, &audio, &urls, &alerts, nullptr});
-        open();
+        open({&*paths, &log, &audio, &alerts, &urls});
     }
-    ~Preferences() override { Platform::install(Platform{}); }
 
     template <typename Screen> Screen* showTab(int index)
     {

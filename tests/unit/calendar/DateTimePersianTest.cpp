@@ -1,5 +1,5 @@
 #include "calendar/DateTimePersian.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
 
 #include <gtest/gtest.h>

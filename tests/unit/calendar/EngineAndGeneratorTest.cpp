@@ -1,8 +1,8 @@
 #include "almanac/DayCalendar.h"
 #include "calendar/DateTimePersian.h"
-#include "data/Format.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
+#include "text/Format.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
 #include "data/MyDB.h"
-#include "platform/FixedPaths.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/TempFolder.h"

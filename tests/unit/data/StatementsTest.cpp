@@ -1,10 +1,10 @@
 #include "data/Statements.h"
-#include "data/Format.h"
 #include "data/MyDB.h"
-#include "platform/FixedPaths.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/TempFolder.h"
+#include "text/Format.h"
 
 #include <gtest/gtest.h>
 

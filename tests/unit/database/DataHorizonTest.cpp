@@ -1,9 +1,9 @@
 // The top-up of a working copy: years computed on the spot are the shipped years to the byte,
 // only what is missing is added, and only as far as the days ahead ask.
 #include "data/DataHorizon.h"
-#include "data/Format.h"
+#include "text/Format.h"
 #include "data/Statements.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "tests/unit/database/ShippedIcons.h"
 
 namespace kavenda {

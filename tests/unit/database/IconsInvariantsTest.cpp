@@ -1,7 +1,7 @@
-#include "calendar/Utility.h"
 #include "data/IntValue.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "tests/unit/database/ShippedIcons.h"
+#include "text/Utility.h"
 
 namespace kavenda {
 namespace {

@@ -1,8 +1,8 @@
-#include "calendar/Utility.h"
-#include "data/Format.h"
 #include "data/IntValue.h"
 #include "data/Statements.h"
 #include "tests/unit/database/ShippedIcons.h"
+#include "text/Format.h"
+#include "text/Utility.h"
 
 namespace kavenda {
 namespace {

@@ -1,14 +1,14 @@
 #include "screens/main/CityPages.h"
 
 #include "calendar/DateTimePersian.h"
-#include "data/Format.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
-#include "platform/FixedPaths.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/TempFolder.h"
+#include "text/Format.h"
 
 #include <gtest/gtest.h>
 

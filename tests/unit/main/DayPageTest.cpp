@@ -1,7 +1,7 @@
 #include "screens/main/DayPage.h"
 
 #include "calendar/DateTimePersian.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 
 #include <gtest/gtest.h>
 

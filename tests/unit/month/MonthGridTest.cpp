@@ -2,10 +2,10 @@
 #include "screens/calendar/MonthGrid.h"
 
 #include "calendar/DateTimePersian.h"
-#include "data/Format.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
 #include "tests/unit/database/ShippedIcons.h"
+#include "text/Format.h"
 
 #include <gtest/gtest.h>
 

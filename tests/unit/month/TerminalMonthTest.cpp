@@ -1,6 +1,6 @@
 #include "screens/calendar/TerminalMonth.h"
 
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "tests/unit/database/ShippedIcons.h"
 
 #include <gtest/gtest.h>

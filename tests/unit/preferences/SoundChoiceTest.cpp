@@ -1,6 +1,6 @@
 #include "screens/preferences/SoundChoice.h"
 
-#include "platform/SoundFiles.h"
+#include "reminders/SoundFiles.h"
 #include "tests/support/FileText.h"
 #include "tests/support/RecordingAudioPlayer.h"
 #include "tests/unit/preferences/PreferencesFixture.h"

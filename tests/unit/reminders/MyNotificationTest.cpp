@@ -1,10 +1,9 @@
 #include "reminders/MyNotification.h"
 
 #include "data/MyDB.h"
-#include "platform/FixedClock.h"
-#include "platform/FixedPaths.h"
-#include "platform/IcuPersianCalendar.h"
-#include "platform/Platform.h"
+#include "desktop/IcuPersianCalendar.h"
+#include "tests/support/FixedClock.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
@@ -298,19 +297,13 @@ TEST_F(Reminders, TwoUpdatesLeaveTheSameSetAsOne)
     EXPECT_EQ(once, twice);
 }
 
-// The shell installs its services and asks the shared scheduler, which must use them all.
-TEST_F(Reminders, TheSharedSchedulerWorksWithTheInstalledServices)
+// The shell sets up the shared scheduler, which must use every service it was given.
+TEST_F(Reminders, TheSharedSchedulerWorksWithTheServicesOfTheShell)
 {
     choose(32);
     settings("Item0 = 1, Item1 = 0, Item2 = 0, Item6 = 9, Item7 = '08:00'");
-    Platform services;
-    services.clock = &clock;
-    services.calendar = &calendar;
-    services.paths = &paths;
-    services.log = &log;
-    services.notifications = &notifications;
-    services.random = &random;
-    Platform::install(services);
+    MyDB::setUp(paths, log);
+    MyNotification::setUp(clock, calendar, notifications, random, log);
 
     MyNotification& shared = MyNotification::initialize();
     EXPECT_EQ(&shared, &MyNotification::initialize());
@@ -318,7 +311,6 @@ TEST_F(Reminders, TheSharedSchedulerWorksWithTheInstalledServices)
     ASSERT_EQ(notifications.records.size(), 10u);
     EXPECT_EQ(notifications.records[5].soundName, "3.wav");
     EXPECT_EQ(log.lines.front(), "08:00");
-    Platform::install(Platform{});
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "reminders/NextReminderText.h"
 
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
 
 #include <gtest/gtest.h>

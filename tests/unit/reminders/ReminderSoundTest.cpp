@@ -1,7 +1,7 @@
-#include "platform/ReminderSound.h"
+#include "reminders/ReminderSound.h"
 
 #include "platform/AudioPlayer.h"
-#include "platform/FixedPaths.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/RecordingLog.h"
 
 #include <gtest/gtest.h>

@@ -4,14 +4,14 @@
 #include "reminders/MyNotification.h"
 #include "reminders/ReplanWatch.h"
 
-#include "data/Format.h"
 #include "data/Statements.h"
-#include "platform/FixedClock.h"
-#include "platform/IcuPersianCalendar.h"
-#include "platform/ReminderQueue.h"
+#include "desktop/IcuPersianCalendar.h"
+#include "reminders/ReminderQueue.h"
+#include "tests/support/FixedClock.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
 #include "tests/unit/database/ShippedIcons.h"
+#include "text/Format.h"
 
 #include <algorithm>
 #include <cstdlib>

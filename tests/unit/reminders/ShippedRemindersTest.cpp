@@ -2,14 +2,14 @@
 // on: the times announced are the stored ones, as no summer hour is kept any more.
 #include "reminders/MyNotification.h"
 
-#include "data/Format.h"
 #include "data/Statements.h"
-#include "platform/FixedClock.h"
-#include "platform/IcuPersianCalendar.h"
+#include "desktop/IcuPersianCalendar.h"
+#include "tests/support/FixedClock.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
 #include "tests/unit/database/ShippedIcons.h"
+#include "text/Format.h"
 
 namespace kavenda {
 namespace {

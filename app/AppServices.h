@@ -1,0 +1,30 @@
+#pragma once
+
+namespace kavenda {
+
+class Alerts;
+class AudioPlayer;
+class Clock;
+class Log;
+class NotificationService;
+class Paths;
+class PersianCalendar;
+class Random;
+class Screen;
+class UrlOpener;
+
+// The services the shell makes at start and hands to the window and the shared instances.
+struct AppServices {
+    Clock* clock = nullptr;
+    PersianCalendar* calendar = nullptr;
+    Paths* paths = nullptr;
+    Log* log = nullptr;
+    NotificationService* notifications = nullptr;
+    Random* random = nullptr;
+    AudioPlayer* audio = nullptr;
+    UrlOpener* urls = nullptr;
+    Alerts* alerts = nullptr;
+    Screen* screen = nullptr;
+};
+
+}  // namespace kavenda

@@ -1,0 +1,17 @@
+#include "desktop/AudioModuleEntry.h"
+
+#include "desktop/PlayableAudio.h"
+#include "desktop/QtAudioPlayer.h"
+
+extern "C" {
+
+kavenda::AudioPlayer* kavenda_audio_player()
+{
+    return new kavenda::QtAudioPlayer();
+}
+
+bool kavenda_audio_playable(const char* file)
+{
+    return kavenda::isPlayableAudio(std::filesystem::path(file));
+}
+}

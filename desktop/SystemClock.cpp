@@ -1,0 +1,10 @@
+#include "desktop/SystemClock.h"
+
+namespace kavenda {
+
+Instant SystemClock::now() const
+{
+    return std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+}
+
+}  // namespace kavenda

@@ -1,0 +1,270 @@
+#include "widgets/Animations.h"
+#include "widgets/NavigationStack.h"
+#include "widgets/PageIndicator.h"
+#include "widgets/Pager.h"
+#include "widgets/PresentationStack.h"
+#include "widgets/TabBarController.h"
+#include "widgets/ToggleSwitch.h"
+
+#include <QAccessible>
+#include <QLabel>
+#include <QPointer>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+
+namespace kavenda {
+namespace {
+
+QList<QWidget*> labels(int count)
+{
+    QList<QWidget*> pages;
+    for (int i = 0; i < count; ++i)
+        pages.append(new QLabel(QString::number(i)));
+    return pages;
+}
+
+}  // namespace
+
+class WidgetsTest : public QObject {
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { setAnimationsEnabled(false); }
+
+    void pagerPlacesPagesAndReportsEveryOffset()
+    {
+        Pager pager;
+        pager.resize(320, 460);
+        pager.show();
+        QSignalSpy scrolled(&pager, &Pager::didScroll);
+        const QList<QWidget*> pages = labels(3);
+        pager.setPages(pages);
+        QCOMPARE(pager.contentWidth(), 960);
+        QCOMPARE(pages[2]->geometry(), QRect(640, 0, 320, 460));
+        for (double offset : {640.0, 639.5, 650.0}) {
+            pager.setContentOffset(offset, false);
+            QCOMPARE(pager.contentOffset(), offset);
+            QCOMPARE(scrolled.takeLast().first().toDouble(), offset);
+        }
+        // The old pages go when new ones come.
+        QPointer<QWidget> old = pages[0];
+        pager.setPages(labels(1));
+        QTest::qWait(0);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(old.isNull());
+        QCOMPARE(pager.contentWidth(), 320);
+    }
+
+    void pagerFollowsADragAndSnapsToTheNearestPage_data()
+    {
+        QTest::addColumn<double>("start");
+        QTest::addColumn<int>("drag");
+        QTest::addColumn<double>("settled");
+        QTest::newRow("short drag back to the same page") << 640.0 << 100 << 640.0;
+        QTest::newRow("past half way to the previous page") << 640.0 << 200 << 320.0;
+        QTest::newRow("towards the next page") << 0.0 << -170 << 320.0;
+        QTest::newRow("never beyond the last page") << 640.0 << -300 << 640.0;
+        QTest::newRow("never before the first") << 0.0 << 250 << 0.0;
+    }
+
+    void pagerFollowsADragAndSnapsToTheNearestPage()
+    {
+        QFETCH(double, start);
+        QFETCH(int, drag);
+        QFETCH(double, settled);
+        Pager pager;
+        pager.resize(320, 460);
+        pager.setPages(labels(3));
+        pager.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&pager));
+        pager.setContentOffset(start, false);
+        QSignalSpy ended(&pager, &Pager::didEndScrolling);
+        QWidget* surface = pager.viewport();
+        const QPoint from(160, 200);
+        QTest::mousePress(surface, Qt::LeftButton, {}, from);
+        QTest::mouseMove(surface, from + QPoint(drag / 2, 0));
+        const double midway = std::clamp(start - drag / 2, 0.0, 640.0);
+        QCOMPARE(pager.contentOffset(), midway);
+        QTest::mouseRelease(surface, Qt::LeftButton, {}, from + QPoint(drag, 0));
+        QCOMPARE(pager.contentOffset(), settled);
+        QCOMPARE(ended.size(), 1);
+        QCOMPARE(ended.first().first().toInt(), static_cast<int>(settled) / 320);
+    }
+
+    void pageIndicatorKeepsItsPageInRange()
+    {
+        PageIndicator indicator;
+        indicator.setNumberOfPages(3);
+        indicator.setCurrentPage(2);
+        QCOMPARE(indicator.currentPage(), 2);
+        indicator.setCurrentPage(7);
+        QCOMPARE(indicator.currentPage(), 2);
+        indicator.setNumberOfPages(1);
+        QCOMPARE(indicator.currentPage(), 0);
+    }
+
+    // Keys and clicks the user makes are reported; pages set by code are not.
+    void pageIndicatorReportsOnlyTheUsersChanges()
+    {
+        PageIndicator indicator;
+        indicator.resize(320, 36);
+        indicator.setNumberOfPages(4);
+        indicator.setCurrentPage(3);
+        indicator.show();
+        QSignalSpy chosen(&indicator, &PageIndicator::valueChanged);
+        indicator.setCurrentPage(2);
+        QCOMPARE(chosen.size(), 0);
+        const QList<QPair<int, int>> keys{{Qt::Key_Left, 1}, {Qt::Key_Left, 0}, {Qt::Key_Left, 0}, {Qt::Key_Right, 1}};
+        for (const auto& [key, page] : keys) {
+            QTest::keyClick(&indicator, static_cast<Qt::Key>(key));
+            QCOMPARE(indicator.currentPage(), page);
+        }
+        QCOMPARE(chosen.size(), 3);  // the press at the first page changed nothing
+        QTest::mouseClick(&indicator, Qt::LeftButton, {}, indicator.dotRect(3).center());
+        QCOMPARE(chosen.takeLast().first().toInt(), 3);
+        QCOMPARE(indicator.pageAt(indicator.dotRect(0).left() - 6), 2);  // beside the dots: one step
+        QCOMPARE(indicator.pageAt(indicator.dotRect(2).right() + 3), 2);  // the gap belongs to the dot
+    }
+
+    void toggleSwitchReadsAsACheckBoxNamedByItsRow()
+    {
+        QWidget row;
+        auto* label = new QLabel(QStringLiteral("اذان صبح"), &row);
+        auto* toggle = new ToggleSwitch(&row);
+        label->setBuddy(toggle);
+        row.show();
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(toggle);
+        QCOMPARE(face->role(), QAccessible::CheckBox);
+        QCOMPARE(face->text(QAccessible::Name), QStringLiteral("اذان صبح"));
+        QVERIFY(face->state().checkable);
+        QVERIFY(!face->state().checked);
+        QSignalSpy toggled(toggle, &ToggleSwitch::toggled);
+        face->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+        QVERIFY(toggle->isChecked());
+        QVERIFY(face->state().checked);
+        QCOMPARE(toggled.size(), 1);
+        toggle->setAccessibleName(QStringLiteral("سحر"));
+        QCOMPARE(face->text(QAccessible::Name), QStringLiteral("سحر"));
+    }
+
+    void tabBarRefusesDisabledTabsToTheUserButNotToCode()
+    {
+        TabBarController tabs;
+        for (const char* title : {"cities", "settings", "sounds"})
+            tabs.addTab(new QLabel(QString::fromLatin1(title)), QString::fromLatin1(title));
+        tabs.resize(320, 460);
+        tabs.show();
+        QSignalSpy changed(&tabs, &TabBarController::currentChanged);
+        tabs.setTabEnabled(1, false);
+        QVERIFY(!tabs.isTabEnabled(1));
+        QTest::mouseClick(tabs.tabButton(1), Qt::LeftButton);
+        QCOMPARE(tabs.currentIndex(), 0);
+        QCOMPARE(changed.size(), 0);
+        QTest::mouseClick(tabs.tabButton(2), Qt::LeftButton);
+        QCOMPARE(tabs.currentIndex(), 2);
+        QCOMPARE(changed.takeFirst().first().toInt(), 2);
+        QVERIFY(tabs.page(2)->isVisible());
+        tabs.setTabEnabled(1, true);
+        QTest::mouseClick(tabs.tabButton(1), Qt::LeftButton);
+        QCOMPARE(tabs.currentIndex(), 1);
+        tabs.setTabBarHidden(true);
+        QVERIFY(tabs.isTabBarHidden());
+        QVERIFY(!tabs.tabButton(0)->isVisible());
+    }
+
+    void navigationPushPopTitlesAndButtons()
+    {
+        NavigationStack stack;
+        stack.resize(320, 460);
+        stack.show();
+        auto* list = new QWidget;
+        list->setWindowTitle(QStringLiteral("شهرها"));
+        stack.push(list, false);
+        auto* done = new QPushButton(QStringLiteral("Done"));
+        stack.setBarButtons(list, nullptr, done);
+        QCOMPARE(stack.title(), QStringLiteral("شهرها"));
+        QVERIFY(done->isVisible());
+
+        QPointer<QWidget> search = new QWidget;
+        search->setWindowTitle(QStringLiteral("جستجو"));
+        stack.push(search, true);
+        QCOMPARE(stack.count(), 2);
+        QCOMPARE(stack.top(), search.data());
+        QCOMPARE(stack.title(), QStringLiteral("جستجو"));
+        QVERIFY(!done->isVisible());
+        QVERIFY(!list->isVisible());
+        search->setWindowTitle(QStringLiteral("افزودن"));
+        QCOMPARE(stack.title(), QStringLiteral("افزودن"));
+
+        stack.pop(true);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(search.isNull());
+        QCOMPARE(stack.count(), 1);
+        QCOMPARE(stack.title(), QStringLiteral("شهرها"));
+        QVERIFY(done->isVisible());
+        stack.pop(false);
+        QCOMPARE(stack.count(), 1);
+    }
+
+    void navigationBarHidesAndGivesItsRoomToTheScreen()
+    {
+        NavigationStack stack;
+        stack.resize(320, 460);
+        stack.show();
+        auto* screen = new QWidget;
+        stack.push(screen, false);
+        QCOMPARE(screen->height(), 460 - 44);
+        stack.setNavigationBarHidden(true, true);
+        QVERIFY(stack.isNavigationBarHidden());
+        QCOMPARE(screen->height(), 460);
+        stack.setNavigationBarHidden(false, false);
+        QCOMPARE(screen->height(), 416);
+    }
+
+    void presentationStackCountsAndDismissesItsScreens()
+    {
+        PresentationStack window;
+        window.resize(320, 460);
+        window.show();
+        QSignalSpy changed(&window, &PresentationStack::topChanged);
+        auto* root = new QWidget;
+        window.setRoot(root);
+        QCOMPARE(window.depth(), 1);
+        QPointer<QWidget> options = new QWidget;
+        window.present(options, true);
+        auto* search = new QWidget;
+        window.present(search, false);
+        QCOMPARE(window.depth(), 3);
+        QCOMPARE(window.top(), search);
+        QCOMPARE(search->geometry(), QRect(0, 0, 320, 460));
+        QVERIFY(!root->isVisible());
+        window.dismiss(true);
+        window.dismiss(false);
+        QCOMPARE(window.depth(), 1);
+        QCOMPARE(window.top(), root);
+        QVERIFY(root->isVisible());
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        QVERIFY(options.isNull());
+        window.dismiss(false);
+        QCOMPARE(window.depth(), 1);
+        QCOMPARE(changed.size(), 5);
+    }
+
+    void toggleSwitchFlipsOnClick()
+    {
+        ToggleSwitch toggle;
+        toggle.show();
+        QVERIFY(toggle.isCheckable());
+        QTest::mouseClick(&toggle, Qt::LeftButton);
+        QVERIFY(toggle.isChecked());
+        QTest::mouseClick(&toggle, Qt::LeftButton);
+        QVERIFY(!toggle.isChecked());
+    }
+};
+
+}  // namespace kavenda
+
+QTEST_MAIN(kavenda::WidgetsTest)
+#include "WidgetsTest.moc"
