@@ -1,19 +1,19 @@
 // The program's clock run over the end of the last year its working copy holds: the coming
 // years are computed off the window's thread, and the reminders go on into them without a gap.
 #include "app/HorizonKeeper.h"
-#include "desktop/Replanning.h"
 #include "calendar/DateTimePersian.h"
-#include "text/Format.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
+#include "desktop/IcuPersianCalendar.h"
+#include "desktop/Replanning.h"
+#include "reminders/MyNotification.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
-#include "desktop/IcuPersianCalendar.h"
-#include "reminders/MyNotification.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TempFolder.h"
+#include "text/Format.h"
 
 #include <QSignalSpy>
 #include <QtTest>

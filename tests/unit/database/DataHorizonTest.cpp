@@ -1,10 +1,10 @@
 // The top-up of a working copy: years computed on the spot are the shipped years to the byte,
 // only what is missing is added, and only as far as the days ahead ask.
 #include "data/DataHorizon.h"
-#include "text/Format.h"
 #include "data/Statements.h"
 #include "desktop/IcuPersianCalendar.h"
 #include "tests/unit/database/ShippedIcons.h"
+#include "text/Format.h"
 
 namespace kavenda {
 namespace {
