@@ -13,6 +13,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenu>
+#include <QShortcut>
 #include <QSystemTrayIcon>
 #include <QVBoxLayout>
 #include <QWindowStateChangeEvent>
@@ -58,6 +59,7 @@ bool AppDelegate::didFinishLaunchingWithOptions()
                                    *presentation_);
     presentation_->setRoot(root_);
     window_->installEventFilter(this);
+    connect(new QShortcut(QKeySequence::Quit, window_.get()), &QShortcut::activated, this, &AppDelegate::quit);
     makeTray();
     // Without a tray a window kept hidden could never be reached.
     if (startsInBackground_ && tray_)
@@ -101,6 +103,12 @@ void AppDelegate::applicationWillTerminate()
 {
 }
 
+void AppDelegate::quit()
+{
+    quitting_ = true;
+    QCoreApplication::quit();
+}
+
 void AppDelegate::makeTray()
 {
     if (!QSystemTrayIcon::isSystemTrayAvailable()) {
@@ -114,10 +122,7 @@ void AppDelegate::makeTray()
     auto* menu = new QMenu(window_.get());
     menu->setLayoutDirection(Qt::RightToLeft);
     connect(menu->addAction(QStringLiteral("نمایش")), &QAction::triggered, this, &AppDelegate::showWindow);
-    connect(menu->addAction(QStringLiteral("خروج")), &QAction::triggered, this, [this] {
-        quitting_ = true;
-        QCoreApplication::quit();
-    });
+    connect(menu->addAction(QStringLiteral("خروج")), &QAction::triggered, this, &AppDelegate::quit);
     tray_->setContextMenu(menu);
     connect(tray_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)

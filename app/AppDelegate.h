@@ -41,6 +41,8 @@ public:
     // A start in the background stays in the tray until the window is asked for.
     void setStartsInBackground(bool background) { startsInBackground_ = background; }
     void showWindow();
+    // The one way out of the program: the tray's exit and Ctrl+Q.
+    void quit();
 
     QWidget* window() const { return window_.get(); }
     MainViewController* rootViewController() const;

@@ -27,6 +27,8 @@
 #include "reminders/MyNotification.h"
 #include "reminders/ReminderSound.h"
 #include "screens/main/MainViewController.h"
+#include "widgets/EnterPressesButtons.h"
+#include "widgets/FocusRingStyle.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
@@ -165,6 +167,8 @@ int main(int argc, char** argv)
     }
 
     usePersianFont();
+    QApplication::setStyle(new FocusRingStyle);
+    app->installEventFilter(new EnterPressesButtons(app.get()));
     usePersianQtTexts();
     QApplication::setApplicationDisplayName(QStringLiteral("کاوندا"));
     // Wayland docks match the window to the menu entry by this name.

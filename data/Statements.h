@@ -48,6 +48,8 @@ inline constexpr std::string_view comingOccasions =
 inline constexpr std::string_view monthEvents = "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '%@__'";
 // The key prefix of a month: (year mod 1300) and the two-digit month, "9201" for Farvardin 1392.
 inline constexpr std::string_view monthPattern = "%d%02i";
+// The first and last days that have occasion rows: the months the calendar can show.
+inline constexpr std::string_view heldDays = "SELECT MIN(Date) AS first, MAX(Date) AS last FROM tEvents";
 
 // Settings.
 inline constexpr std::string_view allSettings = "SELECT * FROM tSetting";

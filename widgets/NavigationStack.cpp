@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QPropertyAnimation>
+#include <QStackedWidget>
 
 #include <utility>
 
@@ -17,56 +18,59 @@ constexpr int slideMilliseconds = 300;
 }  // namespace
 
 NavigationStack::NavigationStack(QWidget* parent)
-    : QWidget(parent), bar_(new NavigationBar(this)), content_(new QWidget(this)), barHeight_(NavigationBar::barHeight)
+    : QWidget(parent), bar_(new NavigationBar(this)), content_(new QStackedWidget(this)),
+      barHeight_(NavigationBar::barHeight)
 {
+    connect(content_, &QStackedWidget::currentChanged, this, &NavigationStack::showTop);
+}
+
+// The screens go with the base widget; their going changes no title.
+NavigationStack::~NavigationStack()
+{
+    disconnect(content_, nullptr, this, nullptr);
+    for (auto slot = buttons_.keyBegin(); slot != buttons_.keyEnd(); ++slot)
+        disconnect(*slot, nullptr, this, nullptr);
 }
 
 void NavigationStack::push(QWidget* screen, bool animated)
 {
-    QWidget* below = top();
-    screen->setParent(content_);
-    screen->setGeometry(content_->rect());
-    screens_.append(screen);
+    QPointer<QWidget> covered = top();
+    content_->addWidget(screen);
     connect(screen, &QWidget::windowTitleChanged, this, [this, screen] {
         if (screen == top())
             bar_->setTitle(screen->windowTitle());
     });
     connect(screen, &QObject::destroyed, this, [this, screen] { forget(screen); });
-    screen->show();
+    buttons_.insert(screen, {});
+    screen->setGeometry(content_->rect());
+    content_->setCurrentWidget(screen);
+    if (!covered || !animates(animated))
+        return;
+    // A pushed screen comes in from the side where reading starts, over the one it covers.
+    covered->show();
     screen->raise();
-    // A pushed screen comes in from the side where reading starts.
     const int from = isRightToLeft() ? -content_->width() : content_->width();
-    QPointer<QWidget> covered = below;
-    if (animated && animationsEnabled() && below && isVisible())
-        slide(screen, from, 0, [covered] {
-            if (covered)
-                covered->hide();
-        });
-    else if (below)
-        below->hide();
-    showTop();
+    slide(screen, from, 0, [covered, this] {
+        if (covered && covered != top())
+            covered->hide();
+    });
 }
 
 void NavigationStack::pop(bool animated)
 {
-    if (screens_.size() < 2)
+    if (count() < 2)
         return;
     QWidget* gone = top();
     forget(gone);
-    top()->show();
+    content_->removeWidget(gone);
+    if (!animates(animated)) {
+        gone->deleteLater();
+        return;
+    }
+    gone->show();
     gone->raise();
     const int to = isRightToLeft() ? -content_->width() : content_->width();
-    if (animated && animationsEnabled() && isVisible())
-        slide(gone, 0, to, [gone] { gone->deleteLater(); });
-    else
-        gone->deleteLater();
-}
-
-// The screens outlive the members that track them: they are deleted with the base widget.
-NavigationStack::~NavigationStack()
-{
-    for (QWidget* screen : screens_)
-        disconnect(screen, nullptr, this, nullptr);
+    slide(gone, 0, to, [gone] { gone->deleteLater(); });
 }
 
 NavigationStack* NavigationStack::of(const QWidget* screen)
@@ -79,12 +83,12 @@ NavigationStack* NavigationStack::of(const QWidget* screen)
 
 QWidget* NavigationStack::top() const
 {
-    return screens_.isEmpty() ? nullptr : screens_.last();
+    return content_->currentWidget();
 }
 
 int NavigationStack::count() const
 {
-    return static_cast<int>(screens_.size());
+    return content_->count();
 }
 
 void NavigationStack::setNavigationBarHidden(bool hidden, bool animated)
@@ -93,7 +97,7 @@ void NavigationStack::setNavigationBarHidden(bool hidden, bool animated)
         barAnimation_->stop();
     barHidden_ = hidden;
     const int height = hidden ? 0 : NavigationBar::barHeight;
-    if (!animated || !animationsEnabled() || !isVisible()) {
+    if (!animates(animated)) {
         barHeight_ = height;
         layoutContent();
         return;
@@ -143,16 +147,14 @@ void NavigationStack::resizeEvent(QResizeEvent* event)
     layoutContent();
 }
 
+// A screen on its way out may outlive the stack's own members, so it stops reporting.
 void NavigationStack::forget(QWidget* screen)
 {
-    // A screen on its way out may outlive the stack's own members, so it stops reporting.
     disconnect(screen, nullptr, this, nullptr);
     const BarButtons slot = buttons_.take(screen);
     for (QAbstractButton* button : {slot.left.data(), slot.right.data()})
         if (button)
             button->deleteLater();
-    if (screens_.removeAll(screen) > 0)
-        showTop();
 }
 
 void NavigationStack::showTop()
@@ -169,8 +171,6 @@ void NavigationStack::layoutContent()
     bar_->setVisible(barHeight_ > 0);
     bar_->setGeometry(0, barHeight_ - NavigationBar::barHeight, width(), NavigationBar::barHeight);
     content_->setGeometry(0, barHeight_, width(), height() - barHeight_);
-    for (QWidget* screen : screens_)
-        screen->setGeometry(content_->rect());
 }
 
 void NavigationStack::slide(QWidget* screen, int fromX, int toX, std::function<void()> done)
@@ -182,6 +182,11 @@ void NavigationStack::slide(QWidget* screen, int fromX, int toX, std::function<v
     animation->setEasingCurve(QEasingCurve::OutCubic);
     connect(animation, &QAbstractAnimation::finished, this, std::move(done));
     animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+bool NavigationStack::animates(bool animated) const
+{
+    return animated && animationsEnabled() && isVisible();
 }
 
 }  // namespace kavenda

@@ -1,13 +1,13 @@
 #pragma once
 
 #include <QHash>
-#include <QList>
 #include <QPointer>
 #include <QWidget>
 
 #include <functional>
 
 class QAbstractButton;
+class QStackedWidget;
 class QVariantAnimation;
 
 namespace kavenda {
@@ -52,11 +52,12 @@ private:
     void forget(QWidget* screen);
     void showTop();
     void layoutContent();
+    // Shows a screen that is no longer the stack's top while it slides.
     void slide(QWidget* screen, int fromX, int toX, std::function<void()> done);
+    bool animates(bool animated) const;
 
     NavigationBar* bar_;
-    QWidget* content_;
-    QList<QWidget*> screens_;
+    QStackedWidget* content_;
     QHash<QWidget*, BarButtons> buttons_;
     bool barHidden_ = false;
     int barHeight_;

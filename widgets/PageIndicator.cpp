@@ -1,5 +1,7 @@
 #include "widgets/PageIndicator.h"
 
+#include "widgets/FocusRingStyle.h"
+
 #include "widgets/AccessibleFactory.h"
 #include "widgets/PageIndicatorAccessible.h"
 
@@ -98,11 +100,10 @@ void PageIndicator::paintEvent(QPaintEvent*)
         return;
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (hasFocus()) {
-        painter.setPen(QPen(QColor(255, 255, 255, 150), 1.0));
-        painter.setBrush(Qt::NoBrush);
+    if (FocusRingStyle::showsFocus(this)) {
         const QRectF dots = QRectF(dotRect(0)).united(dotRect(pages_ - 1));
-        painter.drawRoundedRect(dots.adjusted(-gap / 2.0, -gap / 2.0, gap / 2.0, gap / 2.0), 7, 7);
+        FocusRingStyle::drawFocusRing(&painter, dots.adjusted(-gap / 2.0, -gap / 2.0, gap / 2.0, gap / 2.0), palette(),
+                                      7);
     }
     painter.setPen(Qt::NoPen);
     for (int i = 0; i < pages_; ++i) {

@@ -5,93 +5,61 @@
 
 namespace kavenda {
 
-PresentationStack::PresentationStack(QWidget* parent) : QWidget(parent)
+PresentationStack::PresentationStack(QWidget* parent) : QStackedWidget(parent)
 {
+    connect(this, &QStackedWidget::currentChanged, this, &PresentationStack::topChanged);
+}
+
+// The screens go with the base widget, and their going is no change of screen.
+PresentationStack::~PresentationStack()
+{
+    blockSignals(true);
 }
 
 void PresentationStack::setRoot(QWidget* screen)
 {
-    while (!screens_.isEmpty())
-        release(screens_.takeLast())->deleteLater();
-    adopt(screen);
-    screen->show();
-    emit topChanged();
+    while (count() > 0) {
+        QWidget* old = widget(0);
+        removeWidget(old);
+        old->deleteLater();
+    }
+    addWidget(screen);
 }
 
 void PresentationStack::present(QWidget* screen, bool animated)
 {
-    QWidget* below = top();
-    adopt(screen);
-    flip(below, screen, true, animated);
-    emit topChanged();
+    const QPixmap before = pictureOf(top(), animated);
+    addWidget(screen);
+    setCurrentWidget(screen);
+    flip(before, true);
 }
 
 void PresentationStack::dismiss(bool animated)
 {
-    if (screens_.size() < 2)
+    if (count() < 2)
         return;
-    QWidget* gone = release(screens_.takeLast());
-    flip(gone, top(), false, animated);
+    QWidget* gone = top();
+    const QPixmap before = pictureOf(gone, animated);
+    removeWidget(gone);
     gone->deleteLater();
-    emit topChanged();
+    flip(before, false);
 }
 
-// The screens outlive the members that track them: they are deleted with the base widget.
-PresentationStack::~PresentationStack()
+// Only a change a person sees is animated.
+QPixmap PresentationStack::pictureOf(QWidget* screen, bool animated) const
 {
-    for (QWidget* screen : screens_)
-        disconnect(screen, nullptr, this, nullptr);
+    return animated && animationsEnabled() && screen && isVisible() ? screen->grab() : QPixmap();
 }
 
-QWidget* PresentationStack::top() const
-{
-    return screens_.isEmpty() ? nullptr : screens_.last();
-}
-
-int PresentationStack::depth() const
-{
-    return static_cast<int>(screens_.size());
-}
-
-void PresentationStack::resizeEvent(QResizeEvent* event)
-{
-    QWidget::resizeEvent(event);
-    for (QWidget* screen : screens_)
-        screen->setGeometry(rect());
-}
-
-// A screen on its way out may outlive the stack's own members, so it stops reporting.
-QWidget* PresentationStack::release(QWidget* screen)
-{
-    disconnect(screen, nullptr, this, nullptr);
-    return screen;
-}
-
-void PresentationStack::adopt(QWidget* screen)
-{
-    screen->setParent(this);
-    screen->setGeometry(rect());
-    screens_.append(screen);
-    connect(screen, &QObject::destroyed, this, [this, screen] {
-        if (screens_.removeAll(screen) > 0)
-            emit topChanged();
-    });
-}
-
-void PresentationStack::flip(QWidget* from, QWidget* to, bool forward, bool animated)
+void PresentationStack::flip(const QPixmap& before, bool forward)
 {
     if (transition_)
         transition_->deleteLater();
-    const bool canAnimate = animated && animationsEnabled() && from && isVisible();
-    QPixmap before = canAnimate ? from->grab() : QPixmap();
-    if (from)
-        from->hide();
-    to->show();
-    to->raise();
-    if (!canAnimate)
+    if (before.isNull())
         return;
-    QPixmap after = to->grab();
-    transition_ = new FlipTransition(this, before, after, forward);
+    QWidget* shown = top();
+    shown->setGeometry(contentsRect());
+    transition_ = new FlipTransition(this, before, shown->grab(), forward);
 }
 
 }  // namespace kavenda

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <QList>
 #include <QPointer>
-#include <QWidget>
+#include <QStackedWidget>
 
 namespace kavenda {
 
 class FlipTransition;
 
-// The window's root content: a root screen and the modal screens presented over it.
-class PresentationStack : public QWidget {
+// The window's root content: a root screen and the modal screens presented over it, the last
+// one on show.
+class PresentationStack : public QStackedWidget {
     Q_OBJECT
 
 public:
@@ -19,22 +19,17 @@ public:
     void setRoot(QWidget* screen);
     void present(QWidget* screen, bool animated);
     void dismiss(bool animated);
-    QWidget* top() const;
+    QWidget* top() const { return currentWidget(); }
     // 1 while only the root is shown.
-    int depth() const;
+    int depth() const { return count(); }
 
 signals:
     void topChanged();
 
-protected:
-    void resizeEvent(QResizeEvent* event) override;
-
 private:
-    void adopt(QWidget* screen);
-    QWidget* release(QWidget* screen);
-    void flip(QWidget* from, QWidget* to, bool forward, bool animated);
+    QPixmap pictureOf(QWidget* screen, bool animated) const;
+    void flip(const QPixmap& before, bool forward);
 
-    QList<QWidget*> screens_;
     QPointer<FlipTransition> transition_;
 };
 

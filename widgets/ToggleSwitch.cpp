@@ -2,7 +2,8 @@
 
 #include "widgets/AccessibleFactory.h"
 #include "widgets/Animations.h"
-#include "widgets/ToggleSwitchAccessible.h"
+#include "widgets/FocusRingStyle.h"
+#include "widgets/TapButtonAccessible.h"
 
 #include <QPainter>
 
@@ -17,7 +18,7 @@ constexpr int margin = 2;
 
 ToggleSwitch::ToggleSwitch(QWidget* parent) : QAbstractButton(parent)
 {
-    installAccessibleInterface<ToggleSwitch, ToggleSwitchAccessible>();
+    installAccessibleInterface<ToggleSwitch, TapButtonAccessible>();
     setCheckable(true);
     setCursor(Qt::PointingHandCursor);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);
@@ -83,6 +84,8 @@ void ToggleSwitch::paintEvent(QPaintEvent*)
     painter.setPen(QPen(QColor(0, 0, 0, 50), 1.0));
     painter.setBrush(Qt::white);
     painter.drawEllipse(knob);
+    if (FocusRingStyle::showsFocus(this))
+        FocusRingStyle::drawFocusRing(&painter, rect(), palette(), radius);
 }
 
 }  // namespace kavenda

@@ -4,11 +4,16 @@
 #include "screens/calendar/DayButton.h"
 #include "ui_CalendarViewController.h"
 #include "widgets/Animations.h"
+#include "widgets/PresentationStack.h"
 
+#include <QApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QPalette>
 #include <QVariantAnimation>
+
+#include <algorithm>
 
 namespace kavenda {
 
@@ -16,18 +21,24 @@ namespace {
 
 constexpr int slideMilliseconds = 350;
 constexpr int tableFontPixels = 15;
+constexpr int tableRowHeight = 17;
+constexpr int week = 7;
 
-int slotY(MonthGrid::Slot slot)
+// The grid runs right to left: Left goes on to the next day.
+std::optional<int> gridStep(int key)
 {
-    switch (slot) {
-    case MonthGrid::Slot::top:
-        return 0;
-    case MonthGrid::Slot::middle:
-        return MonthGrid::pageHeight;
-    case MonthGrid::Slot::bottom:
-        return 2 * MonthGrid::pageHeight;
+    switch (key) {
+    case Qt::Key_Left:
+        return 1;
+    case Qt::Key_Right:
+        return -1;
+    case Qt::Key_Up:
+        return -week;
+    case Qt::Key_Down:
+        return week;
+    default:
+        return std::nullopt;
     }
-    return MonthGrid::pageHeight;
 }
 
 }  // namespace
@@ -43,12 +54,14 @@ CalendarViewController::CalendarViewController(const DateTimePersian& date, cons
     setPalette(colours);
 
     content_ = new QWidget(ui_->scrl);
-    content_->setGeometry(0, 0, MonthGrid::pageWidth, 3 * MonthGrid::pageHeight);
+    content_->setGeometry(0, 0, ui_->scrl->width(), 3 * ui_->scrl->height());
     const QList<QAbstractButton*> steps{ui_->previousButton, ui_->nextButton};
     for (QAbstractButton* step : steps)
         connect(step, &QAbstractButton::clicked, this, [this, step] { changeMonth(step->property("tag").toInt()); });
     connect(ui_->todayButton, &QPushButton::clicked, this, &CalendarViewController::showToday);
     connect(ui_->detailsButton, &QPushButton::clicked, this, &CalendarViewController::showDetails);
+    for (QAbstractButton* button : steps + QList<QAbstractButton*>{ui_->todayButton, ui_->detailsButton})
+        button->installEventFilter(this);
 
     apply(grid_.viewDidLoad());
     reloadData();
@@ -78,7 +91,7 @@ QListWidget* CalendarViewController::tblEvents() const
 std::map<int, DayButton*> CalendarViewController::dayButtons() const
 {
     std::map<int, DayButton*> buttons;
-    const auto shown = pageViews_.find(grid_.pages().front().id);
+    const auto shown = pageViews_.find(grid_.pages().back().id);
     if (shown != pageViews_.end())
         for (DayButton* button : shown->second->findChildren<DayButton*>())
             buttons[button->tag()] = button;
@@ -98,6 +111,7 @@ void CalendarViewController::showEvents(int page, DayButton* button)
     grid_.showEvents({page, button->tag()});
     showSelection();
     reloadData();
+    focusDay(button->tag(), focusedDay() != nullptr);
 }
 
 void CalendarViewController::showToday()
@@ -117,7 +131,8 @@ void CalendarViewController::showDetails()
 
 void CalendarViewController::apply(const MonthGrid::Switch& done)
 {
-    ui_->monthLbl->setText(QString::fromStdString(grid_.monthName()));
+    ui_->monthLbl->setText(QString::fromStdString(grid_.title()));
+    updateSteps();
     if (!done.built) {
         setOffset(slotY(MonthGrid::Slot::middle));
         showSelection();
@@ -153,6 +168,8 @@ void CalendarViewController::scrollViewDidEndScrollingAnimation()
             view->second->move(0, slotY(MonthGrid::Slot::middle));
             ++view;
         } else {
+            // Hidden at once, so that nothing on it keeps a place in the focus chain.
+            view->second->hide();
             view->second->deleteLater();
             view = pageViews_.erase(view);
         }
@@ -165,13 +182,21 @@ QWidget* CalendarViewController::makePage(const MonthPage& page)
     auto* view = new QLabel(content_);
     view->setObjectName(QStringLiteral("monthPage"));
     view->setPixmap(QPixmap(QString::fromStdString((resourceFolder_ / "calendarBG.png").string())));
-    view->resize(MonthGrid::pageWidth, MonthGrid::pageHeight);
+    view->resize(ui_->scrl->size());
+    // The grid's stop comes after the arrows and before the buttons under the table.
+    QWidget* before = ui_->nextButton;
     for (const DayCell& cell : page.cells) {
         auto* button = new DayButton(cell, resourceFolder_, view);
         connect(button, &QAbstractButton::clicked, this, [this, id = page.id, button] { showEvents(id, button); });
+        button->installEventFilter(this);
+        // Qt leaves a widget that takes no focus out of the chain; focusDay() then narrows it.
+        button->setFocusPolicy(Qt::TabFocus);
+        setTabOrder(before, button);
+        before = button;
     }
     view->show();
     pageViews_[page.id] = view;
+    focusDay(stopDay(), false);
     return view;
 }
 
@@ -200,13 +225,122 @@ void CalendarViewController::reloadData()
         item->setToolTip(item->text());
         item->setFont(font);
         item->setTextAlignment(Qt::AlignRight | Qt::AlignAbsolute | Qt::AlignVCenter);
-        item->setSizeHint(QSize(0, MonthGrid::rowHeight));
+        item->setSizeHint(QSize(0, tableRowHeight));
     }
 }
 
 void CalendarViewController::setOffset(int y)
 {
     content_->move(0, -y);
+}
+
+int CalendarViewController::slotY(MonthGrid::Slot slot) const
+{
+    switch (slot) {
+    case MonthGrid::Slot::top:
+        return 0;
+    case MonthGrid::Slot::middle:
+        break;
+    case MonthGrid::Slot::bottom:
+        return 2 * ui_->scrl->height();
+    }
+    return ui_->scrl->height();
+}
+
+// An arrow is live only where its step leads somewhere.
+void CalendarViewController::updateSteps()
+{
+    ui_->previousButton->setEnabled(grid_.canStep(-1));
+    ui_->nextButton->setEnabled(grid_.canStep(+1));
+}
+
+int CalendarViewController::stopDay() const
+{
+    if (grid_.today() != 0)
+        return grid_.today();
+    const std::optional<ButtonRef> today = grid_.todayBtn();
+    return today && today->page == grid_.pages().back().id ? today->day : 1;
+}
+
+void CalendarViewController::focusDay(int day, bool focus)
+{
+    for (const auto& [tag, button] : dayButtons()) {
+        button->setFocusPolicy(tag == day ? Qt::TabFocus : Qt::NoFocus);
+        if (tag == day && focus)
+            button->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+DayButton* CalendarViewController::focusedDay() const
+{
+    return qobject_cast<DayButton*>(QApplication::focusWidget());
+}
+
+void CalendarViewController::dismissWithoutPick()
+{
+    for (QWidget* above = parentWidget(); above; above = above->parentWidget())
+        if (auto* stack = qobject_cast<PresentationStack*>(above)) {
+            if (stack->top() == this)
+                stack->dismiss(true);
+            return;
+        }
+    QWidget::close();
+}
+
+// Enter presses a focused button as Space does; the arrows move through the grid.
+bool CalendarViewController::eventFilter(QObject* watched, QEvent* event)
+{
+    auto* button = qobject_cast<QAbstractButton*>(watched);
+    if (event->type() != QEvent::KeyPress || !button)
+        return QWidget::eventFilter(watched, event);
+    const int key = static_cast<QKeyEvent*>(event)->key();
+    if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+        if (button->isEnabled())
+            button->click();
+        return true;
+    }
+    const std::optional<int> step = gridStep(key);
+    auto* day = qobject_cast<DayButton*>(watched);
+    if (!step || !day)
+        return QWidget::eventFilter(watched, event);
+    focusDay(grid_.dayAfter(day->tag(), *step), true);
+    return true;
+}
+
+void CalendarViewController::keyPressEvent(QKeyEvent* event)
+{
+    const bool inGrid = focusedDay() != nullptr;
+    const auto shown = [this] { return std::pair{grid_.year(), grid_.month()}; };
+    const auto before = shown();
+    switch (event->key()) {
+    case Qt::Key_Escape:
+        dismissWithoutPick();
+        return;
+    case Qt::Key_PageUp:
+    case Qt::Key_PageDown: {
+        // The same day of the next month, or its last day when it is shorter.
+        const int day = inGrid ? focusedDay()->tag() : stopDay();
+        changeMonth(event->key() == Qt::Key_PageUp ? -1 : +1);
+        if (shown() != before)
+            focusDay(std::min(day, static_cast<int>(dayButtons().size())), inGrid);
+        return;
+    }
+    case Qt::Key_Home:
+        if (grid_.canChange()) {
+            showToday();
+            focusDay(grid_.dayNow(), true);
+        }
+        return;
+    default:
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void CalendarViewController::showEvent(QShowEvent* event)
+{
+    QWidget::showEvent(event);
+    if (!event->spontaneous())
+        focusDay(stopDay(), true);
 }
 
 }  // namespace kavenda

@@ -11,6 +11,7 @@
 
 class QLabel;
 class QListWidget;
+class QKeyEvent;
 class QVariantAnimation;
 
 namespace Ui {
@@ -26,7 +27,9 @@ class MyDB;
 class PersianCalendar;
 
 // The month calendar: one month as a grid of day buttons over a table of the selected day's
-// occasions; steps a month with a vertical slide, jumps to today, and hands a day back.
+// occasions; steps a month with a vertical slide, jumps to today, and hands a day back. From
+// the keyboard the arrows move through the grid right to left, Page Up and Page Down step the
+// month, Home goes to today, Enter and Space press, Escape closes without a pick.
 class CalendarViewController : public QWidget {
     Q_OBJECT
 
@@ -56,8 +59,13 @@ public:
     QWidget* scrl() const;
     QLabel* monthLbl() const;
     QListWidget* tblEvents() const;
-    // The day buttons of the page on show, by day.
+    // The day buttons of the month in the grid's month (during a slide, the page slid to), by day.
     std::map<int, DayButton*> dayButtons() const;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    void showEvent(QShowEvent* event) override;
 
 private:
     void apply(const MonthGrid::Switch& done);
@@ -65,6 +73,13 @@ private:
     void showSelection();
     void reloadData();
     void setOffset(int y);
+    int slotY(MonthGrid::Slot slot) const;
+    void updateSteps();
+    // Moves the grid's one focus stop to a day of the month in the grid's month.
+    void focusDay(int day, bool focus);
+    DayButton* focusedDay() const;
+    void dismissWithoutPick();
+    int stopDay() const;
 
     std::unique_ptr<Ui::CalendarViewController> ui_;
     std::filesystem::path resourceFolder_;

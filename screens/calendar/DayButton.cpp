@@ -1,9 +1,9 @@
 #include "screens/calendar/DayButton.h"
 
-#include "screens/calendar/DayButtonAccessible.h"
 #include "text/Format.h"
 #include "text/Utility.h"
 #include "widgets/AccessibleFactory.h"
+#include "widgets/TapButtonAccessible.h"
 
 #include <QPainter>
 #include <QPixmapCache>
@@ -12,16 +12,33 @@ namespace kavenda {
 
 namespace {
 
+// Column k (0 = Saturday) stands at x = 276 - 46k, row r at y = 44r + 1: Saturday rightmost.
+constexpr int cellWidth = 45;
+constexpr int cellHeight = 43;
+constexpr int firstX = 276;
+constexpr int stepX = 46;
+constexpr int stepY = 44;
+constexpr int firstY = 1;
 constexpr int titlePixels = 20;
+constexpr int focusPen = 2;
+constexpr qreal focusRadius = 6;
 
-QColor colourOf(const Rgb& rgb)
+QColor colourOf(DayCell::Ink ink)
 {
-    return QColor(rgb.red, rgb.green, rgb.blue);
+    switch (ink) {
+    case DayCell::Ink::holiday:
+        return QColor(195, 56, 61);
+    case DayCell::Ink::onSelection:
+        return Qt::white;
+    case DayCell::Ink::plain:
+        break;
+    }
+    return Qt::black;
 }
 
-QPixmap image(const std::filesystem::path& folder, const std::string& name)
+QPixmap image(const std::filesystem::path& folder, const char* name)
 {
-    if (name.empty())
+    if (!name)
         return {};
     const QString path = QString::fromStdString((folder / name).string());
     QPixmap pixmap;
@@ -30,11 +47,21 @@ QPixmap image(const std::filesystem::path& folder, const std::string& name)
     return pixmap;
 }
 
+// Today's ring stands for the day until it is picked; a picked day keeps its occasion star.
+const char* backgroundOf(const DayCell& cell, bool selected)
+{
+    if (selected)
+        return cell.hasOccasion() ? "selectedWithEvent.png" : "selected.png";
+    if (cell.today)
+        return "today.png";
+    return cell.hasOccasion() ? "hasEvent.png" : nullptr;
+}
+
 // The number, then the occasions, so a screen reader says what the grid shows.
 QString accessibleNameOf(const DayCell& cell)
 {
     QString name = QString::fromStdString(Utility::ConvertToPersian(format("%i", {cell.place.day})));
-    if (!cell.description.empty())
+    if (cell.hasOccasion())
         for (const std::string& occasion : MonthGrid::occasions(cell.description))
             name += QStringLiteral("، ") + QString::fromStdString(occasion);
     return name;
@@ -43,20 +70,21 @@ QString accessibleNameOf(const DayCell& cell)
 }  // namespace
 
 DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceFolder, QWidget* parent)
-    : QAbstractButton(parent), tag_(cell.place.day), normalTitle_(colourOf(cell.normalTitle)),
-      selectedTitle_(colourOf(cell.selectedTitle)), normalBackground_(image(resourceFolder, cell.normalBackground)),
-      selectedBackground_(image(resourceFolder, cell.selectedBackground))
+    : QAbstractButton(parent), cell_(cell), normalBackground_(image(resourceFolder, backgroundOf(cell, false))),
+      selectedBackground_(image(resourceFolder, backgroundOf(cell, true)))
 {
-    installAccessibleInterface<DayButton, DayButtonAccessible>();
+    installAccessibleInterface<DayButton, TapButtonAccessible>();
     setCheckable(true);
     setChecked(cell.selected);
     setText(QString::fromStdString(Utility::ConvertToPersian(format("%i", {cell.place.day}))));
     setAccessibleName(accessibleNameOf(cell));
     // A holiday is told by its colour alone; a screen reader says it in words.
-    if (cell.normalTitle == MonthGrid::holidayColour)
+    if (cell.holiday)
         setAccessibleDescription(tr("تعطیل"));
-    setGeometry(cell.x(), cell.y(), MonthGrid::buttonWidth, MonthGrid::buttonHeight);
+    setGeometry(firstX - stepX * cell.place.column, firstY + stepY * cell.place.row, cellWidth, cellHeight);
     setCursor(Qt::PointingHandCursor);
+    // The grid is one stop of the focus chain; the calendar moves the stop with the arrows.
+    setFocusPolicy(Qt::NoFocus);
     // The program's Persian face, whose digits have the Persian shapes the main screen shows.
     QFont title = font();
     title.setPixelSize(titlePixels);
@@ -65,12 +93,12 @@ DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceF
 
 QColor DayButton::titleColour() const
 {
-    return isChecked() ? selectedTitle_ : normalTitle_;
+    return colourOf(cell_.ink(isChecked()));
 }
 
 QSize DayButton::sizeHint() const
 {
-    return QSize(MonthGrid::buttonWidth, MonthGrid::buttonHeight);
+    return QSize(cellWidth, cellHeight);
 }
 
 void DayButton::nextCheckState()
@@ -88,6 +116,17 @@ void DayButton::paintEvent(QPaintEvent*)
     painter.setPen(titleColour());
     painter.setFont(font());
     painter.drawText(rect(), Qt::AlignCenter, text());
+    if (hasFocus()) {
+        // A thin inner line in the highlight's text colour keeps the ring clear on the dark
+        // ground of a picked day.
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setBrush(Qt::NoBrush);
+        const QRectF ring = QRectF(rect()).adjusted(focusPen / 2.0, focusPen / 2.0, -focusPen / 2.0, -focusPen / 2.0);
+        painter.setPen(QPen(palette().color(QPalette::Highlight), focusPen));
+        painter.drawRoundedRect(ring, focusRadius, focusRadius);
+        painter.setPen(QPen(palette().color(QPalette::HighlightedText), 1));
+        painter.drawRoundedRect(ring.adjusted(1.5, 1.5, -1.5, -1.5), focusRadius - 1.5, focusRadius - 1.5);
+    }
 }
 
 }  // namespace kavenda

@@ -9,15 +9,16 @@
 
 namespace kavenda {
 
-// A day of a month page: its number in Persian digits over the background of its state.
-// Selection is the checked state, set only by the calendar, never by a click itself.
+// A day of a month page: its number in Persian digits over the background of its state, at
+// its place in the page's right-to-left grid. Selection is the checked state, set only by the
+// calendar, never by a click itself.
 class DayButton : public QAbstractButton {
     Q_OBJECT
 
 public:
     DayButton(const DayCell& cell, const std::filesystem::path& resourceFolder, QWidget* parent);
 
-    int tag() const { return tag_; }
+    int tag() const { return cell_.place.day; }
     // The title colour of the state the button is in.
     QColor titleColour() const;
     QSize sizeHint() const override;
@@ -27,9 +28,7 @@ protected:
     void nextCheckState() override;
 
 private:
-    int tag_;
-    QColor normalTitle_;
-    QColor selectedTitle_;
+    DayCell cell_;
     QPixmap normalBackground_;
     QPixmap selectedBackground_;
 };

@@ -3,6 +3,7 @@
 #include "data/MyDB.h"
 #include "data/Statements.h"
 #include "text/Format.h"
+#include "text/Utility.h"
 
 #include <algorithm>
 
@@ -11,6 +12,7 @@ namespace kavenda {
 namespace {
 
 constexpr int friday = 6;
+constexpr int months = 12;
 constexpr int lastMonth = 11;
 // 1392's calendar never handed on its last day, 29 Esfand; later years hand it on.
 constexpr int yearKeepingItsLastDay = 1392;
@@ -45,18 +47,31 @@ const DayCell* MonthPage::cell(int day) const
 MonthGrid::MonthGrid(MyDB& db, const PersianCalendar& calendar, const DateTimePersian& opened,
                      const DateTimePersian& now)
     : db_(db), calendar_(calendar), year_(opened.fullYear()), month_(opened.month() - 1), yearNow_(now.fullYear()),
-      monthNow_(now.month() - 1), today_(opened.day()), dayNow_(now.day())
+      monthNow_(now.month() - 1), today_(opened.day()), dayNow_(now.day()), held_(readHeldMonths(db))
 {
+}
+
+std::optional<MonthGrid::HeldMonths> MonthGrid::readHeldMonths(MyDB& db)
+{
+    const RowSet range = db.Execute(sql::heldDays);
+    const auto month = [&range](const char* column) -> std::optional<int> {
+        const std::string key = MyDB::getValue(range, 0, column).value_or("");
+        if (key.size() < 6)
+            return std::nullopt;
+        // The year is what stands before the month and the day, two characters each.
+        const int year = 1300 + std::stoi(key.substr(0, key.size() - 4));
+        return year * months + std::stoi(key.substr(key.size() - 4, 2)) - 1;
+    };
+    const std::optional<int> first = month("first");
+    const std::optional<int> last = month("last");
+    if (!first || !last)
+        return std::nullopt;
+    return HeldMonths{*first, *last};
 }
 
 std::string MonthGrid::monthStatement(int year, int m)
 {
     return formatSql(sql::monthEvents, {format(sql::monthPattern, {year % 1300, m + 1})});
-}
-
-std::string MonthGrid::monthName() const
-{
-    return monthLbl_;
 }
 
 MonthGrid::Switch MonthGrid::viewDidLoad()
@@ -70,9 +85,9 @@ MonthGrid::Switch MonthGrid::viewDidLoad()
 MonthGrid::Switch MonthGrid::switchMonth(int year, int m)
 {
     canChange_ = false;
-    monthLbl_ = DateTimePersian::getMonthName(m);
-    const int target = year * 12 + m;
-    const int shown = year_ * 12 + month_;
+    title_ = DateTimePersian::getMonthName(m) + " " + Utility::ConvertToPersian(format("%d", {year}));
+    const int target = year * months + m;
+    const int shown = year_ * months + month_;
     if (target != shown) {
         buildPage(year, m);
         return {true, target > shown ? Slot::bottom : Slot::top, true};
@@ -101,24 +116,14 @@ void MonthGrid::buildPage(int year, int m)
         DayCell cell;
         cell.place = place;
         cell.description = description(day);
-        const bool holiday = place.column == friday
+        cell.holiday = place.column == friday
             || MyDB::getValue(datasource_, static_cast<std::size_t>(day - 1), "IsHoliday").value_or("") == "1";
-        cell.normalTitle = holiday ? holidayColour : black;
-        // The selected state has no colour of its own for a holiday, so it keeps the normal one.
-        cell.selectedTitle = holiday ? holidayColour : white;
-        if (!cell.description.empty()) {
-            cell.normalBackground = "hasEvent.png";
-            cell.selectedBackground = "selectedWithEvent.png";
-        } else {
-            cell.selectedBackground = "selected.png";
-        }
         if (day == today_ && year == year_ && m == month_) {
             cell.selected = true;
             lastBtn_ = ref;
         }
         if (day == dayNow_ && year == yearNow_ && m == monthNow_) {
-            cell.normalBackground = "today.png";
-            cell.selectedBackground = "selected.png";
+            cell.today = true;
             if (dayNow_ == today_)
                 cell.selected = true;
             lastBtn_ = ref;
@@ -138,16 +143,30 @@ void MonthGrid::scrollViewDidEndScrollingAnimation()
 
 std::optional<MonthGrid::Switch> MonthGrid::changeMonth(int step)
 {
-    if (!canChange_)
+    if (!canChange_ || !canStep(step))
         return std::nullopt;
-    const int next = month_ + step;
-    if (next < 0 || next > lastMonth)
-        return std::nullopt;
-    const Switch done = switchMonth(year_, next);
+    const int next = year_ * months + month_ + step;
+    const Switch done = switchMonth(next / months, next % months);
     lastBtn_.reset();
     today_ = 0;
-    month_ = next;
+    year_ = next / months;
+    month_ = next % months;
     return done;
+}
+
+// A month outside the data may still step back towards it, so no arrow is dead there.
+bool MonthGrid::canStep(int step) const
+{
+    if (!held_)
+        return false;
+    const int next = year_ * months + month_ + step;
+    return step < 0 ? next >= held_->first : next <= held_->last;
+}
+
+int MonthGrid::dayAfter(int day, int step) const
+{
+    const int next = day + step;
+    return next >= 1 && next <= static_cast<int>(pages_.back().cells.size()) ? next : day;
 }
 
 std::optional<MonthGrid::Switch> MonthGrid::showToday()

@@ -7,6 +7,7 @@
 #include <deque>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace kavenda {
@@ -14,27 +15,21 @@ namespace kavenda {
 class MyDB;
 class PersianCalendar;
 
-struct Rgb {
-    int red = 0;
-    int green = 0;
-    int blue = 0;
-    bool operator==(const Rgb&) const = default;
-};
-
-// One day button of a month page, in both of its states.
+// One day button of a month page, told by what it means; how it looks is the screen's matter.
 struct DayCell {
+    // The title's colour by meaning: a picked day's number stands out on the selection's ground.
+    enum class Ink { plain, holiday, onSelection };
+
     GridPlace place;
-    Rgb normalTitle;
-    Rgb selectedTitle;
-    // Image file names; empty for none.
-    std::string normalBackground;
-    std::string selectedBackground;
+    // A Friday, or a holiday by the data.
+    bool holiday = false;
+    bool today = false;
     bool selected = false;
     // The day's occasions, "@" between them.
     std::string description;
 
-    int x() const { return 276 - 46 * place.column; }
-    int y() const { return 44 * place.row + 1; }
+    bool hasOccasion() const { return !description.empty(); }
+    Ink ink(bool picked) const { return picked ? Ink::onSelection : holiday ? Ink::holiday : Ink::plain; }
 };
 
 // The day buttons of one month. Pages are numbered in the order they are built.
@@ -60,14 +55,6 @@ struct ButtonRef {
 // The screen mirrors the pages and asks for the slides that a month switch reports.
 class MonthGrid {
 public:
-    static constexpr Rgb holidayColour{195, 56, 61};
-    static constexpr Rgb black{0, 0, 0};
-    static constexpr Rgb white{255, 255, 255};
-    static constexpr int buttonWidth = 45;
-    static constexpr int buttonHeight = 43;
-    static constexpr int pageWidth = 320;
-    static constexpr int pageHeight = 221;
-    static constexpr int rowHeight = 17;
     static constexpr std::string_view noOccasion = "بدون رویداد";
 
     enum class Slot { top, middle, bottom };
@@ -85,11 +72,18 @@ public:
     Switch switchMonth(int year, int m);
     void scrollViewDidEndScrollingAnimation();
     // Each returns the switch it ran, none when the request was ignored.
+    // A step crosses into the next or previous year, within the months the database holds.
     std::optional<Switch> changeMonth(int step);
+    // Whether a step leads to a month the database holds (or back towards them).
+    bool canStep(int step) const;
     std::optional<Switch> showToday();
     void showEvents(ButtonRef button);
     // The date to hand on, none when nothing is handed on.
     std::optional<DateTimePersian> showDetails();
+
+    // The day a grid key moves to from a day of the month on show: a step of days, kept
+    // within the month.
+    int dayAfter(int day, int step) const;
 
     int numberOfRows() const;
     std::string cellText(int row) const;
@@ -99,9 +93,11 @@ public:
     // "SELECT ... LIKE" of one month: the key prefix (year mod 1300) and the two-digit month.
     static std::string monthStatement(int year, int m);
 
-    // The shown page first; during a slide the page being slid to is the last.
+    // The shown page first; during a slide the page being slid to is the last, which is always
+    // the page of the month in month().
     const std::deque<MonthPage>& pages() const { return pages_; }
-    std::string monthName() const;
+    // The month's name and the year in Persian digits.
+    std::string title() const { return title_; }
     int year() const { return year_; }
     int month() const { return month_; }
     int monthNow() const { return monthNow_; }
@@ -113,6 +109,12 @@ public:
     std::optional<ButtonRef> todayBtn() const { return todayBtn_; }
 
 private:
+    // The first and last months the occasions table holds, as year * 12 + month index.
+    struct HeldMonths {
+        int first = 0;
+        int last = 0;
+    };
+    static std::optional<HeldMonths> readHeldMonths(MyDB& db);
     void buildPage(int year, int m);
     void setSelected(std::optional<ButtonRef> button, bool selected);
     std::string description(int day) const;
@@ -132,7 +134,8 @@ private:
     int nextPageId_ = 1;
     std::optional<ButtonRef> lastBtn_;
     std::optional<ButtonRef> todayBtn_;
-    std::string monthLbl_;
+    std::string title_;
+    std::optional<HeldMonths> held_;
 };
 
 }  // namespace kavenda

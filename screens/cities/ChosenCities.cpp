@@ -31,11 +31,6 @@ std::string ChosenCities::nameAt(int row) const
     return stateNameAt(datasource_, static_cast<std::size_t>(row));
 }
 
-int ChosenCities::listHeight() const
-{
-    return count() < 7 ? minimumListHeight : rowHeight * count();
-}
-
 void ChosenCities::remove(int row)
 {
     if (row < 0 || row >= count())

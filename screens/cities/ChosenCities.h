@@ -2,6 +2,7 @@
 
 #include "data/RowSet.h"
 
+#include <algorithm>
 #include <functional>
 #include <string>
 
@@ -11,17 +12,14 @@ class MyDB;
 class SelectionControllerDelegate;
 
 // The chosen cities in the user's order, and what the city list decides about them: removing
-// (with the places the user made), reordering, the enabled states that hang on the count, the
-// list's size, and the single automatic opening of the search.
+// (with the places the user made), reordering, the enabled states that hang on the count, how
+// many rows the list makes room for, and the single automatic opening of the search.
 class ChosenCities {
 public:
     // Identifiers from here on belong to cities the user made; removing one deletes the place.
     static constexpr int firstUserCityId = 63;
-    static constexpr int rowHeight = 44;
-    static constexpr int minimumListHeight = 308;
-    static constexpr int listWidth = 312;
-    // The list's content is narrower than its holder: the holder's scroll bar takes the rest.
-    static constexpr int scrollContentWidth = 300;
+    // The list always has room for this many rows, shown or empty.
+    static constexpr int minimumRows = 7;
 
     ChosenCities(MyDB& db, std::function<void()> rebuildReminders);
 
@@ -37,9 +35,8 @@ public:
     // Only the first city, the one whose times are announced, keeps the default colour.
     static bool isDimmed(int row) { return row > 0; }
 
-    // Every row is shown: at least seven rows' worth, taller lists scroll in their holder.
-    int listHeight() const;
-    int scrollContentHeight() const { return listHeight() + 1; }
+    // Every row is shown: at least seven rows' worth, longer lists scroll in their holder.
+    int shownRows() const { return std::max(count(), minimumRows); }
 
     void remove(int row);
     // A drop past the end lands on the last row.

@@ -1,13 +1,15 @@
 #pragma once
 
-#include "widgets/TabBarController.h"
+#include <QTabWidget>
+
+#include <functional>
 
 namespace kavenda {
 
 class SelectionControllerDelegate;
 
-// The options' tab bar; it carries the screen to tell when the options close.
-class CustomUITabBarController : public TabBarController {
+// The options' tabs, their bar at the bottom; it carries the screen to tell when the options close.
+class CustomUITabBarController : public QTabWidget {
     Q_OBJECT
 
 public:
@@ -20,12 +22,26 @@ public:
     SelectionControllerDelegate* parentDelegate() const { return parentDelegate_; }
     void setParentDelegate(SelectionControllerDelegate* delegate) { parentDelegate_ = delegate; }
 
-    // A page of the layout file, titled with its window title.
-    void addPage(QWidget* page);
     void setPreferencesEnabled(bool enabled);
+    // A screen pushed over the cities' list takes the whole height.
+    void setTabBarHidden(bool hidden);
+    bool isTabBarHidden() const;
+
+    // Whether the shown tab may be left; a tab with unsaved changes asks first.
+    void setLeaveCheck(std::function<bool(int tab)> check) { leaveCheck_ = std::move(check); }
+    bool mayLeave(int tab) const { return !leaveCheck_ || leaveCheck_(tab); }
+
+signals:
+    // Escape, where nothing nearer the focus took it: the options close as Done closes them.
+    void closeRequested();
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     SelectionControllerDelegate* parentDelegate_ = nullptr;
+    int shownTab_ = 0;
+    std::function<bool(int tab)> leaveCheck_;
 };
 
 }  // namespace kavenda

@@ -11,6 +11,20 @@
 
 namespace kavenda {
 
+namespace {
+
+bool isDeleteKey(int key)
+{
+    return key == Qt::Key_Delete || key == Qt::Key_Backspace;
+}
+
+bool isEnterKey(int key)
+{
+    return key == Qt::Key_Return || key == Qt::Key_Enter;
+}
+
+}  // namespace
+
 EditableCityList::EditableCityList(QWidget* parent) : QListWidget(parent)
 {
     setItemDelegate(new EditingRowDelegate(this));
@@ -31,7 +45,7 @@ void EditableCityList::setCities(const ChosenCities& cities)
         item->setTextAlignment(Qt::AlignVCenter | Qt::AlignLeading);
         if (ChosenCities::isDimmed(row))
             item->setForeground(QColor(Qt::gray));
-        item->setData(Qt::AccessibleDescriptionRole, tr("حذف با Delete، جابجایی با Ctrl و بالا یا پایین"));
+        item->setData(Qt::AccessibleDescriptionRole, QStringLiteral("حذف با Delete، جابجایی با Ctrl و بالا یا پایین"));
     }
 }
 
@@ -58,7 +72,7 @@ int EditableCityList::rowAt(const QPoint& position) const
 
 int EditableCityList::dropRowAt(int y) const
 {
-    return std::clamp(y / ChosenCities::rowHeight, 0, std::max(count() - 1, 0));
+    return std::clamp(y / rowHeight, 0, std::max(count() - 1, 0));
 }
 
 void EditableCityList::setConfirmingRow(int row)
@@ -109,15 +123,15 @@ void EditableCityList::mouseReleaseEvent(QMouseEvent* event)
     emit moveRequested(from, to);
 }
 
-// The keyboard does what the controls do: Delete asks and a second Delete removes the row;
-// Ctrl with Up or Down moves it. Arrows alone go from row to row.
+// The keyboard does what the controls do: Delete asks, and Enter (or a second Delete) removes
+// the row while Escape keeps it; Ctrl with Up or Down moves it. Arrows alone go from row to row.
 void EditableCityList::keyPressEvent(QKeyEvent* event)
 {
     const int row = currentRow();
     const bool moving = event->modifiers() & Qt::ControlModifier;
     if (row < 0) {
         QListWidget::keyPressEvent(event);
-    } else if (event->key() == Qt::Key_Delete || event->key() == Qt::Key_Backspace) {
+    } else if (isDeleteKey(event->key()) || (isEnterKey(event->key()) && row == confirmingRow_)) {
         if (row != confirmingRow_) {
             setConfirmingRow(row);
             return;

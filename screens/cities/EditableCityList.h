@@ -13,6 +13,8 @@ class EditableCityList : public QListWidget {
     Q_OBJECT
 
 public:
+    static constexpr int rowHeight = 44;
+
     explicit EditableCityList(QWidget* parent = nullptr);
 
     // Shows the cities in their order; only the first keeps the default colour.

@@ -1,7 +1,7 @@
 #include "screens/cities/EditingRowDelegate.h"
 
-#include "screens/cities/ChosenCities.h"
 #include "screens/cities/EditableCityList.h"
+#include "widgets/FocusRingStyle.h"
 
 #include <QPainter>
 #include <QStyle>
@@ -48,6 +48,7 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
 {
     const Qt::LayoutDirection direction = option.direction;
     const QRect row = option.rect;
+    const bool focused = option.state & QStyle::State_HasFocus;
     const bool confirming = list_->confirmingRow() == index.row();
     const bool dragged = list_->draggedRow() == index.row();
 
@@ -80,7 +81,7 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         painter->setBrush(QColor(0xd0, 0x20, 0x20));
         painter->drawRoundedRect(button, 5, 5);
         painter->setPen(Qt::white);
-        painter->drawText(button, Qt::AlignCenter, EditableCityList::tr("حذف"));
+        painter->drawText(button, Qt::AlignCenter, QStringLiteral("حذف"));
     } else {
         const QRect grip = gripRect(row, direction);
         painter->setPen(QPen(QColor(0xa8, 0xa8, 0xa8), 2));
@@ -89,12 +90,14 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
             painter->drawLine(grip.left() + 3, y, grip.right() - 3, y);
         }
     }
+    if (focused)
+        FocusRingStyle::drawFocusRing(painter, row, option.palette);
     painter->restore();
 }
 
 QSize EditingRowDelegate::sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const
 {
-    return {QStyledItemDelegate::sizeHint(option, index).width(), ChosenCities::rowHeight};
+    return {QStyledItemDelegate::sizeHint(option, index).width(), EditableCityList::rowHeight};
 }
 
 }  // namespace kavenda

@@ -1,10 +1,10 @@
 #include "screens/cities/NewCityController.h"
 
 #include "screens/cities/CitySearch.h"
-#include "screens/cities/OffsetSlider.h"
 #include "screens/cities/SearchController.h"
 #include "text/Utility.h"
 #include "ui_NewCityController.h"
+#include "widgets/FineSlider.h"
 #include "widgets/NavigationStack.h"
 
 #include <QEvent>
@@ -81,10 +81,11 @@ QFont pixelFont(const QFont& base, int size, bool bold)
 
 NewCityController::NewCityController(MyDB& db, QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::NewCityController>()), draft_(db), db_(db),
-      btnSave_(new QPushButton(tr("ذخیره"), this)), btnBack_(new QPushButton(tr("بازگشت"), this))
+      btnSave_(new QPushButton(QStringLiteral("ذخیره"), this)),
+      btnBack_(new QPushButton(QStringLiteral("بازگشت"), this))
 {
     ui_->setupUi(this);
-    setWindowTitle(tr("شهر جدید"));
+    setWindowTitle(QStringLiteral("شهر جدید"));
     ui_->failureLine->hide();
 
     QWidget* content = ui_->tblContent;
@@ -92,10 +93,8 @@ NewCityController::NewCityController(MyDB& db, QWidget* parent)
     buildNameSection(content);
     buildOffsetSection(content);
 
-    btnSave_->setAccessibleName(tr("ذخیره"));
     btnSave_->setDefault(true);
     btnSave_->hide();
-    btnBack_->setAccessibleName(tr("بازگشت"));
     btnBack_->hide();
     connect(btnSave_, &QPushButton::clicked, this, &NewCityController::save);
     connect(btnBack_, &QPushButton::clicked, this, &NewCityController::back);
@@ -114,7 +113,7 @@ QString NewCityController::offsetLabel(int index)
 
 QString NewCityController::headerTitle()
 {
-    return tr("اختلاف تا مرکز استان(دقیقه)       ");
+    return QStringLiteral("اختلاف تا مرکز استان(دقیقه)       ");
 }
 
 QScrollArea* NewCityController::tbl() const
@@ -130,30 +129,32 @@ QLabel* NewCityController::failureLine() const
 void NewCityController::buildNameSection(QWidget* content)
 {
     addSection(content, nameSectionY, 2);
-    addCaption(content, tr("نام شهر"), sectionX + 10, nameSectionY, rowHeight);
+    QLabel* nameCaption = addCaption(content, QStringLiteral("نام شهر"), sectionX + 10, nameSectionY, rowHeight);
     nameField_ = new QLineEdit(content);
     place(nameField_, 110, nameSectionY + 10, 185, 30);
-    nameField_->setPlaceholderText(tr("بدون نام"));
-    nameField_->setAccessibleName(tr("نام شهر"));
+    nameField_->setPlaceholderText(QStringLiteral("بدون نام"));
+    // A screen reader names the field by its caption.
+    nameCaption->setBuddy(nameField_);
     nameField_->setFrame(false);
     nameField_->setStyleSheet(QStringLiteral("color: black; background: transparent;"));
     nameField_->installEventFilter(this);
     connect(nameField_, &QLineEdit::textEdited, this, [this] { editingField_ = true; });
-    connect(nameField_, &QLineEdit::returnPressed, this, &NewCityController::commitName);
+    // Return and leaving the field both commit the name.
+    connect(nameField_, &QLineEdit::editingFinished, this, &NewCityController::commitName);
 
     provinceRow_ = new QPushButton(content);
     place(provinceRow_, sectionX, nameSectionY + rowHeight, sectionWidth, rowHeight);
     provinceRow_->setFlat(true);
     provinceRow_->setStyleSheet(QStringLiteral("QPushButton { border: none; background: transparent; }"
                                                "QPushButton:pressed { background: #d0dcee; }"));
-    provinceRow_->setAccessibleName(tr("استان"));
-    addCaption(provinceRow_, tr("استان"), 10, 0, rowHeight);
+    provinceRow_->setAccessibleName(addCaption(provinceRow_, QStringLiteral("استان"), 10, 0, rowHeight)->text());
     provinceValue_ = new QLabel(provinceRow_);
     place(provinceValue_, 110, 0, 160, rowHeight);
     provinceValue_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     provinceValue_->setStyleSheet(QStringLiteral("color: #385487;"));
     provinceValue_->setAttribute(Qt::WA_TransparentForMouseEvents);
-    auto* disclosure = new QLabel(QStringLiteral("\u203A"), provinceRow_);
+    // Onwards is to the left in the right-to-left screens.
+    auto* disclosure = new QLabel(QStringLiteral("\u2039"), provinceRow_);
     place(disclosure, sectionWidth - 22, 0, 14, rowHeight);
     disclosure->setStyleSheet(QStringLiteral("color: #a0a0a0; font-size: 20px;"));
     disclosure->setAttribute(Qt::WA_TransparentForMouseEvents);
@@ -183,7 +184,8 @@ void NewCityController::buildOffsetSection(QWidget* content)
         value->setLayoutDirection(Qt::LeftToRight);
         valueLabels_[static_cast<std::size_t>(i)] = value;
 
-        auto* slider = new OffsetSlider(content);
+        auto* slider =
+            new FineSlider(NewCityDraft::minimumOffset, NewCityDraft::maximumOffset, &NewCityDraft::offsetAt, content);
         place(slider, 110, y + 13, 170, 23);
         slider->setAccessibleName(offsetLabel(i));
         sliders_[static_cast<std::size_t>(i)] = slider;
@@ -198,7 +200,7 @@ void NewCityController::reloadData()
     provinceValue_->setText(province);
     provinceRow_->setAccessibleDescription(province);
     for (int i = 0; i < offsetCount; ++i) {
-        OffsetSlider* slider = sliders_[static_cast<std::size_t>(i)];
+        FineSlider* slider = sliders_[static_cast<std::size_t>(i)];
         const QSignalBlocker quiet(slider);
         slider->setPosition(draft_.difArray()[static_cast<std::size_t>(i)]);
         showOffset(i);
@@ -271,7 +273,7 @@ void NewCityController::save()
     if (!draft_.validate())
         return;
     if (!draft_.save()) {
-        ui_->failureLine->setText(tr("شهر ذخیره نشد: پایگاه داده آن را نپذیرفت."));
+        ui_->failureLine->setText(QStringLiteral("شهر ذخیره نشد: پایگاه داده آن را نپذیرفت."));
         ui_->failureLine->show();
         return;
     }

@@ -22,7 +22,7 @@ namespace kavenda {
 
 class MyDB;
 class NavigationStack;
-class OffsetSlider;
+class FineSlider;
 
 // Defines a city the database lacks: a name, its province (picked through the search) and
 // six offsets in minutes from the province centre's times; Save adds it to the chosen cities.
@@ -44,7 +44,7 @@ public:
     QPushButton* provinceRow() const { return provinceRow_; }
     QLabel* provinceValue() const { return provinceValue_; }
     QLabel* sectionHeader() const { return sectionHeader_; }
-    OffsetSlider* slider(int index) const { return sliders_[static_cast<std::size_t>(index)]; }
+    FineSlider* slider(int index) const { return sliders_[static_cast<std::size_t>(index)]; }
     QLabel* valueLabel(int index) const { return valueLabels_[static_cast<std::size_t>(index)]; }
     QLabel* rowLabel(int index) const { return rowLabels_[static_cast<std::size_t>(index)]; }
     QPushButton* btnSave() const { return btnSave_; }
@@ -82,7 +82,7 @@ private:
     QLabel* provinceValue_ = nullptr;
     QLabel* sectionHeader_ = nullptr;
     std::array<QLabel*, offsetCount> rowLabels_{};
-    std::array<OffsetSlider*, offsetCount> sliders_{};
+    std::array<FineSlider*, offsetCount> sliders_{};
     std::array<QLabel*, offsetCount> valueLabels_{};
     // Owned by the navigation stack once shown in its bar.
     QPointer<QPushButton> btnSave_;

@@ -9,6 +9,7 @@
 #include "ui_OptionsViewController.h"
 #include "widgets/NavigationStack.h"
 
+#include <array>
 #include <utility>
 
 namespace kavenda {
@@ -37,12 +38,19 @@ CustomUITabBarController* OptionsViewController::tabBarControl()
     layout.setupUi(this);
     MyDB& db = services_.db;
     layout.citiesNavigation->push(new SelectionController(db, services_.rebuildReminders, services_.urls), false);
-    showInStack(layout.settingsNavigation, new SettingController(db));
-    showInStack(layout.soundsNavigation,
-                new SoundsViewController(db, services_.paths, services_.audio, services_.alerts));
-    showInStack(layout.historyNavigation, new HistoryViewController(db, services_.paths, services_.log));
+    auto* settings = new SettingController(db);
+    auto* sounds = new SoundsViewController(db, services_.paths, services_.audio, services_.alerts);
+    auto* history = new HistoryViewController(db, services_.paths, services_.log);
+    showInStack(layout.settingsNavigation, settings);
+    showInStack(layout.soundsNavigation, sounds);
+    showInStack(layout.historyNavigation, history);
     layout.aboutNavigation->push(new AboutController(AboutRows::shipped(), services_.urls), false);
     tabBarControl_ = layout.tabBarControl;
+    const std::array<SavesChanges*, 5> byTab{nullptr, settings, sounds, history, nullptr};
+    tabBarControl_->setLeaveCheck([byTab, tabs = tabBarControl_.data()](int tab) {
+        SavesChanges* screen = tab >= 0 && tab < int(byTab.size()) ? byTab[std::size_t(tab)] : nullptr;
+        return !screen || mayLeave(*screen, tabs);
+    });
     // The tab bar is presented on its own and lives as long as it is shown; the loader goes with it.
     tabBarControl_->setParent(nullptr);
     tabBarControl_->setLayoutDirection(Qt::RightToLeft);

@@ -2,7 +2,8 @@
 
 #include "screens/cities/SearchControllerDelegate.h"
 #include "ui_SearchController.h"
-#include "widgets/RowChoice.h"
+#include "widgets/AccessibleFactory.h"
+#include "widgets/ListRowsAccessible.h"
 
 #include <QShortcut>
 #include <QToolButton>
@@ -12,17 +13,18 @@ namespace kavenda {
 SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::SearchController>()), search_(db, typeID)
 {
+    installAccessibleInterface<QListWidget, ListRowsAccessible>();
     ui_->setupUi(this);
     if (search_.isProvinceMode())
-        ui_->searchBar->setPlaceholderText(tr("نام استان"));
+        ui_->searchBar->setPlaceholderText(QStringLiteral("نام استان"));
     ui_->searchBar->setAccessibleName(ui_->searchBar->placeholderText());
     // The field's clear button is Qt's own and comes without a name.
     if (auto* clear = ui_->searchBar->findChild<QToolButton*>())
-        clear->setAccessibleName(tr("پاک کردن"));
+        clear->setAccessibleName(QStringLiteral("پاک کردن"));
     connect(ui_->searchBar, &QLineEdit::textChanged, this, &SearchController::textDidChange);
     connect(ui_->cancelButton, &QPushButton::clicked, this, &SearchController::cancel);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &SearchController::cancel);
-    onRowChosen(ui_->tblResult, [this](int row) { pick(row); });
+    connect(ui_->tblResult, &QListWidget::activated, this, [this](const QModelIndex& row) { pick(row.row()); });
     // Enter picks the only candidate left.
     connect(ui_->searchBar, &QLineEdit::returnPressed, this, [this] {
         if (search_.count() == 1)
@@ -67,6 +69,10 @@ void SearchController::showCandidates()
     ui_->tblResult->clear();
     for (int row = 0; row < search_.count(); ++row)
         ui_->tblResult->addItem(QString::fromStdString(search_.nameAt(row)));
+    // The keyboard starts at the first candidate, and shows it when the list has the focus.
+    if (search_.count() > 0)
+        ui_->tblResult->selectionModel()->setCurrentIndex(ui_->tblResult->model()->index(0, 0),
+                                                          QItemSelectionModel::NoUpdate);
 }
 
 void SearchController::pick(int row)

@@ -7,8 +7,9 @@
 #include "screens/cities/NewCityController.h"
 #include "screens/cities/RoundedCorners.h"
 #include "screens/cities/SearchController.h"
+#include "widgets/AccessibleFactory.h"
+#include "widgets/ListRowsAccessible.h"
 #include "widgets/NavigationStack.h"
-#include "widgets/RowChoice.h"
 
 #include <QHBoxLayout>
 #include <QLabel>
@@ -25,6 +26,10 @@ namespace kavenda {
 namespace {
 
 constexpr int cornerRadius = 7;
+constexpr int listWidth = 312;
+// The list's content is narrower than its holder: the holder's scroll bar takes the rest.
+constexpr int scrollContentWidth = 300;
+constexpr int minimumListHeight = ChosenCities::minimumRows * EditableCityList::rowHeight;
 constexpr int listX = 4;
 constexpr int listY = 5;
 constexpr int createRowY = 319;
@@ -52,23 +57,25 @@ template <typename Container> Container* enclosing(const QWidget* widget)
 QListWidget* makeCreateRow(QWidget* parent)
 {
     auto* table = new QListWidget(parent);
-    table->setGeometry(listX, createRowY, ChosenCities::listWidth, createRowHeight);
+    table->setGeometry(listX, createRowY, listWidth, createRowHeight);
     table->setFrameShape(QFrame::NoFrame);
     table->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     table->setFocusPolicy(Qt::TabFocus);
+    table->setStyleSheet(QStringLiteral("activate-on-singleclick: 1;"));
     auto* item = new QListWidgetItem(table);
-    item->setSizeHint(QSize(ChosenCities::listWidth, createRowHeight));
+    item->setSizeHint(QSize(listWidth, createRowHeight));
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(14, 0, 12, 0);
-    const QString text = SelectionController::tr("ایجاد شهر جدید");
+    const QString text = QStringLiteral("ایجاد شهر جدید");
     item->setData(Qt::AccessibleTextRole, text);
     table->setAccessibleName(text);
     layout->addWidget(new QLabel(text, row));
     layout->addStretch();
     auto* disclosure = new QLabel(row);
-    disclosure->setText(row->isRightToLeft() ? QStringLiteral("\u2039") : QStringLiteral("\u203A"));
+    // Onwards is to the left in the right-to-left screens.
+    disclosure->setText(QStringLiteral("\u2039"));
     disclosure->setStyleSheet("color: #a0a0a0; font-size: 20px;");
     layout->addWidget(disclosure);
     table->setItemWidget(item, row);
@@ -82,25 +89,29 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
                                          QWidget* parent)
     : QWidget(parent), db_(db), urls_(urls), cities_(db, std::move(rebuildReminders)),
       tblScrollView_(new QScrollArea(this)), listHolder_(new QWidget), tbl_(new EditableCityList(listHolder_)),
-      btnSearch_(new QPushButton(tr("جستجو"), this)), btnDone_(new QPushButton(tr("تمام"), this))
+      btnSearch_(new QPushButton(QStringLiteral("جستجو"), this)),
+      btnDone_(new QPushButton(QStringLiteral("تمام"), this))
 {
-    setWindowTitle(tr("شهرها"));
+    installAccessibleInterface<QListWidget, ListRowsAccessible>();
+    setWindowTitle(QStringLiteral("شهرها"));
     setAutoFillBackground(true);
     QPalette page = palette();
     page.setColor(QPalette::Window, QColor(0xd6, 0xda, 0xe2));
     setPalette(page);
 
-    tblScrollView_->setGeometry(listX, listY, ChosenCities::listWidth, ChosenCities::minimumListHeight);
+    tblScrollView_->setGeometry(listX, listY, listWidth, minimumListHeight);
     tblScrollView_->setFrameShape(QFrame::NoFrame);
+    // The holder only scrolls the list; the list takes the keyboard.
+    tblScrollView_->setFocusPolicy(Qt::NoFocus);
     tblScrollView_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     tblScrollView_->setStyleSheet(QString::fromLatin1(scrollerStyle));
     tblScrollView_->setWidget(listHolder_);
-    tblScrollView_->setAccessibleName(tr("شهرهای انتخاب شده"));
-    tbl_->setAccessibleName(tr("شهرهای انتخاب شده"));
+    tbl_->setAccessibleName(QStringLiteral("شهرهای انتخاب شده"));
+    tblScrollView_->setAccessibleName(tbl_->accessibleName());
     roundCorners(tblScrollView_, cornerRadius);
 
     createNewCityTable_ = makeCreateRow(this);
-    onRowChosen(createNewCityTable_, [this](int) { NewCityControllerShow(); });
+    connect(createNewCityTable_, &QListWidget::activated, this, &SelectionController::NewCityControllerShow);
 
     btnSearch_->hide();
     btnDone_->hide();
@@ -125,10 +136,11 @@ void SelectionController::showCities()
     if (auto* tabs = tabBarController())
         tabs->setPreferencesEnabled(cities_.preferencesEnabled());
     // The holder is always a point taller than the list; a bar shows only when rows are hidden.
-    tblScrollView_->setVerticalScrollBarPolicy(
-        cities_.listHeight() > ChosenCities::minimumListHeight ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff);
-    tbl_->setGeometry(0, 0, ChosenCities::scrollContentWidth, cities_.listHeight());
-    listHolder_->resize(ChosenCities::scrollContentWidth, cities_.scrollContentHeight());
+    const int listHeight = cities_.shownRows() * EditableCityList::rowHeight;
+    tblScrollView_->setVerticalScrollBarPolicy(listHeight > minimumListHeight ? Qt::ScrollBarAsNeeded
+                                                                              : Qt::ScrollBarAlwaysOff);
+    tbl_->setGeometry(0, 0, scrollContentWidth, listHeight);
+    listHolder_->resize(scrollContentWidth, listHeight + 1);
     // The rows are laid out now, not at the next turn of the event loop: a flip that brings
     // this screen in takes its picture before then.
     tbl_->doItemsLayout();
@@ -146,8 +158,12 @@ void SelectionController::move(int from, int to)
     tbl_->setCities(cities_);
 }
 
+// Refused while no city is chosen, as the button is, and while a tab keeps unsaved changes.
 void SelectionController::Done()
 {
+    CustomUITabBarController* tabs = tabBarController();
+    if (!cities_.canFinish() || (tabs && !tabs->mayLeave(tabs->currentIndex())))
+        return;
     cities_.Done(delegate_);
 }
 
@@ -210,6 +226,8 @@ void SelectionController::appear()
     showCities();
     if (auto* tabs = tabBarController()) {
         delegate_ = tabs->parentDelegate();
+        connect(tabs, &CustomUITabBarController::closeRequested, this, &SelectionController::Done,
+                Qt::UniqueConnection);
         // Back from the new-city editor, which has the whole height.
         tabs->setTabBarHidden(false);
     }

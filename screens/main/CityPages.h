@@ -15,7 +15,6 @@ class MyDB;
 class CityPages {
 public:
     static constexpr int pageWidth = 320;
-    static constexpr int pageHeight = 460;
 
     explicit CityPages(MyDB& db) : db_(db) {}
 

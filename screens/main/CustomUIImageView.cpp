@@ -1,10 +1,12 @@
 #include "screens/main/CustomUIImageView.h"
 
+#include "screens/main/CityPages.h"
 #include "screens/main/CustomUIImageViewAccessible.h"
 #include "screens/main/DayPage.h"
 #include "screens/main/ShadowedLabel.h"
 #include "widgets/AccessibleFactory.h"
 
+#include <QFontMetrics>
 #include <QPainter>
 #include <QPalette>
 
@@ -12,21 +14,21 @@ namespace kavenda {
 
 namespace {
 
+constexpr int tallScreenTop = 44;
 constexpr int timeRowTop = 108;
 constexpr int timeRowStep = 38;
 
 }  // namespace
 
-CustomUIImageView::CustomUIImageView(const Row& row, int index, DateTimePersian& date, int screenHeight,
+CustomUIImageView::CustomUIImageView(const Row& row, int index, DateTimePersian& date, bool tallScreen,
                                      const std::filesystem::path& resourceFolder, QWidget* parent)
     : QWidget(parent)
 {
     installAccessibleInterface<CustomUIImageView, CustomUIImageViewAccessible>();
-    const DayPage page(row, index, date, screenHeight);
-    const Frame& frame = page.frame();
-    setGeometry(frame.x, frame.y, frame.width, frame.height);
+    const DayPage page(row, date);
     // The pager gives every page its full height, so the page's own top is kept inside.
-    top_ = frame.y;
+    top_ = tallScreen ? tallScreenTop : 0;
+    setGeometry(CityPages::pageWidth * index, top_, CityPages::pageWidth, pageHeight);
     background_.load(QString::fromStdString((resourceFolder / "MainView.png").string()));
 
     // Fixed frames: the alignment must not follow the right-to-left layout direction.
@@ -48,15 +50,17 @@ void CustomUIImageView::paintEvent(QPaintEvent*)
     painter.drawPixmap(0, top_, background_);
 }
 
-QLabel* CustomUIImageView::addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
+QLabel* CustomUIImageView::addLabel(const QRect& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
                                     const std::string& text)
 {
-    const QRect area(frame.x, top_ + frame.y, frame.width, frame.height);
-    auto* label = new ShadowedLabel(QString::fromStdString(text), area, QPoint(-1, shadowDown), this);
+    auto* label =
+        new ShadowedLabel(QString::fromStdString(text), frame.translated(0, top_), QPoint(-1, shadowDown), this);
     label->setAlignment(alignment);
     QFont font = label->font();
     font.setPixelSize(fontSize);
     label->setFont(font);
+    // A text longer than its frame ends in "…" rather than being cut off at the frame's edge.
+    label->setText(QFontMetrics(font).elidedText(label->text(), Qt::ElideRight, frame.width()));
     // Inside the pager a label inherits the scroll area's Text role, not WindowText.
     QPalette colours = label->palette();
     colours.setColor(QPalette::WindowText, Qt::white);

@@ -12,7 +12,6 @@ class QLabel;
 namespace kavenda {
 
 class DateTimePersian;
-struct Frame;
 
 // One city's day over the page artwork: name, first occasion, date and eight times. Built
 // once; the main screen throws it away on its next rebuild, or keeps it when nothing changed.
@@ -21,14 +20,17 @@ class CustomUIImageView : public QWidget {
     Q_OBJECT
 
 public:
-    CustomUIImageView(const Row& row, int index, DateTimePersian& date, int screenHeight,
+    static constexpr int pageHeight = 460;
+
+    // A tall screen puts the artwork lower on the page.
+    CustomUIImageView(const Row& row, int index, DateTimePersian& date, bool tallScreen,
                       const std::filesystem::path& resourceFolder, QWidget* parent = nullptr);
 
 protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    QLabel* addLabel(const Frame& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
+    QLabel* addLabel(const QRect& frame, Qt::Alignment alignment, int fontSize, int shadowDown,
                      const std::string& text);
 
     QPixmap background_;

@@ -1,7 +1,6 @@
 #include "screens/main/DayPage.h"
 
 #include "calendar/DateTimePersian.h"
-#include "screens/main/CityPages.h"
 #include "screens/main/TimeCaptions.h"
 #include "text/Format.h"
 #include "text/Utility.h"
@@ -10,7 +9,6 @@ namespace kavenda {
 
 namespace {
 
-constexpr int tallScreenTop = 44;
 constexpr int firstNextDayTime = 7;
 
 std::string firstOccasion(const std::string& description)
@@ -23,10 +21,8 @@ std::string firstOccasion(const std::string& description)
 
 }  // namespace
 
-DayPage::DayPage(const Row& row, int index, DateTimePersian& date, int screenHeight)
-    : frame_{CityPages::pageWidth * index, screenHeight == tallScreenHeight ? tallScreenTop : 0, CityPages::pageWidth,
-             CityPages::pageHeight},
-      name_(valueOf(row, "Name")), occasion_(Utility::ConvertToPersian(firstOccasion(valueOf(row, "Description")))),
+DayPage::DayPage(const Row& row, DateTimePersian& date)
+    : name_(valueOf(row, "Name")), occasion_(Utility::ConvertToPersian(firstOccasion(valueOf(row, "Description")))),
       date_(Utility::ConvertToPersian(date.getFullPersianDate()))
 {
     for (int k = 1; k <= timeCount; ++k) {

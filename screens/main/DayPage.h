@@ -1,7 +1,6 @@
 #pragma once
 
 #include "data/RowSet.h"
-#include "screens/main/Frame.h"
 
 #include <array>
 #include <string>
@@ -10,18 +9,15 @@ namespace kavenda {
 
 class DateTimePersian;
 
-// The texts and frame of one city's day page, worked out from its page row, its position in
-// the pager and the shown date.
+// The texts of one city's day page, worked out from its page row and the shown date.
 class DayPage {
 public:
     static constexpr int timeCount = 8;
-    static constexpr int tallScreenHeight = 568;
 
     // The date's day of the year moves for a moment while the next day's times are formatted
     // and is put back before this returns.
-    DayPage(const Row& row, int index, DateTimePersian& date, int screenHeight);
+    DayPage(const Row& row, DateTimePersian& date);
 
-    const Frame& frame() const { return frame_; }
     const std::string& name() const { return name_; }
     const std::string& occasion() const { return occasion_; }
     const std::string& date() const { return date_; }
@@ -32,7 +28,6 @@ public:
     std::string timeReading(int k) const;
 
 private:
-    Frame frame_;
     std::string name_;
     std::string occasion_;
     std::string date_;

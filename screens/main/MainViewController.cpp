@@ -6,7 +6,6 @@
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/OptionsViewController.h"
 #include "screens/main/CustomUIImageView.h"
-#include "screens/main/DayPage.h"
 #include "text/Format.h"
 #include "text/Utility.h"
 #include "widgets/PageIndicator.h"
@@ -20,6 +19,7 @@ namespace kavenda {
 
 namespace {
 
+constexpr int tallScreenHeight = 568;
 // The tall screen moves the controls at the bottom down by the extra height.
 constexpr int tallShift = 88;
 
@@ -29,7 +29,8 @@ QAbstractButton* informationButton(QWidget* parent)
     button->setText(QStringLiteral("i"));
     button->setStyleSheet(QStringLiteral(
         "QToolButton { color: white; font: bold italic 12px; border: 2px solid white; border-radius: 9px; }"
-        "QToolButton:pressed { background: rgba(255, 255, 255, 90); }"));
+        "QToolButton:pressed { background: rgba(255, 255, 255, 90); }"
+        "QToolButton:focus { border-color: palette(highlight); }"));
     return button;
 }
 
@@ -40,7 +41,8 @@ QAbstractButton* calendarButton(const std::filesystem::path& resourceFolder, QWi
     button->setIcon(QIcon(QString::fromStdString((resourceFolder / "calendarBtn.png").string())));
     button->setIconSize(QSize(34, 32));
     button->setStyleSheet(
-        QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"));
+        QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"
+                       "QToolButton:focus { border: 2px solid palette(highlight); border-radius: 4px; }"));
     return button;
 }
 
@@ -50,7 +52,7 @@ MainViewController::MainViewController(const Services& services, PresentationSta
     : QWidget(parent), services_(services), presentation_(presentation), pages_(services.db)
 {
     setObjectName(QStringLiteral("MainViewController"));
-    setAccessibleName(tr("اوقات شرعی"));
+    setAccessibleName(QStringLiteral("اوقات شرعی"));
     viewDidLoad();
     connect(&presentation_, &PresentationStack::topChanged, this, &MainViewController::presentationChanged);
 }
@@ -66,16 +68,15 @@ void MainViewController::viewDidLoad()
     if (!localDtp_)
         localDtp_ = DateTimePersian::init(services_.clock, services_.calendar);
 
-    const bool tall = services_.screen.boundsHeight() == DayPage::tallScreenHeight;
-    const int shift = tall ? tallShift : 0;
+    const int shift = tallScreen() ? tallShift : 0;
     setAutoFillBackground(true);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, Qt::black);
     setPalette(colours);
 
     scrollView_ = new Pager(this);
-    scrollView_->setGeometry(0, 0, CityPages::pageWidth, CityPages::pageHeight + shift);
-    scrollView_->setAccessibleName(tr("شهرها"));
+    scrollView_->setGeometry(0, 0, CityPages::pageWidth, CustomUIImageView::pageHeight + shift);
+    scrollView_->setAccessibleName(QStringLiteral("شهرها"));
     connect(scrollView_, &Pager::didScroll, this, &MainViewController::scrollViewDidScroll);
 
     pageControl_ = new PageIndicator(this);
@@ -87,18 +88,23 @@ void MainViewController::viewDidLoad()
 
     QAbstractButton* options = informationButton(this);
     options->setObjectName(QStringLiteral("optionsButton"));
-    options->setAccessibleName(tr("گزینه ها"));
+    options->setAccessibleName(QStringLiteral("گزینه ها"));
     options->setGeometry(290, 430 + shift, 18, 19);
     connect(options, &QAbstractButton::clicked, this, &MainViewController::showSelector);
 
     QAbstractButton* calendar = calendarButton(services_.paths.resourceFolder(), this);
     calendar->setObjectName(QStringLiteral("calendarButton"));
-    calendar->setAccessibleName(tr("تقویم"));
+    calendar->setAccessibleName(QStringLiteral("تقویم"));
     calendar->setGeometry(15, 425 + shift, 34, 32);
     connect(calendar, &QAbstractButton::clicked, this, &MainViewController::showCalendar);
 
     if (!datasource().empty())
         Bind();
+}
+
+bool MainViewController::tallScreen() const
+{
+    return services_.screen.boundsHeight() == tallScreenHeight;
 }
 
 void MainViewController::showEvent(QShowEvent* event)
@@ -150,7 +156,7 @@ void MainViewController::Bind()
         QList<QWidget*> pageViews;
         for (int i = 0; i < pageCount_; ++i)
             pageViews.append(new CustomUIImageView(datasource()[static_cast<std::size_t>(i)], i, *localDtp_,
-                                                   services_.screen.boundsHeight(), services_.paths.resourceFolder()));
+                                                   tallScreen(), services_.paths.resourceFolder()));
         scrollView_->setPages(pageViews);
         boundRows_ = datasource();
         boundDate_ = dateKey;

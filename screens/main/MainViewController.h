@@ -81,6 +81,7 @@ private:
     void viewDidLoad();
     void viewDidAppear();
     void presentationChanged();
+    bool tallScreen() const;
 
     Services services_;
     PresentationStack& presentation_;

@@ -1,7 +1,8 @@
 #include "screens/preferences/AboutController.h"
 
 #include "ui_AboutController.h"
-#include "widgets/RowChoice.h"
+#include "widgets/AccessibleFactory.h"
+#include "widgets/ListRowsAccessible.h"
 
 #include <QListWidget>
 
@@ -18,6 +19,7 @@ constexpr int rowHeight = 44;
 AboutController::AboutController(AboutRows rows, UrlOpener* urls, QWidget* parent)
     : QWidget(parent), layout_(std::make_unique<::Ui::AboutController>()), rows_(std::move(rows)), urls_(urls)
 {
+    installAccessibleInterface<QListWidget, ListRowsAccessible>();
     layout_->setupUi(this);
     for (int row = 0; row < AboutRows::rowCount; ++row) {
         const QString text = QString::fromStdString(rows_.text(row));
@@ -30,7 +32,7 @@ AboutController::AboutController(AboutRows rows, UrlOpener* urls, QWidget* paren
             item->setFlags(Qt::ItemIsEnabled);
     }
     layout_->tbl->setFixedHeight(rowHeight * AboutRows::rowCount);
-    onRowChosen(layout_->tbl, [this](int row) { didSelectRow(row); });
+    connect(layout_->tbl, &QListWidget::activated, this, [this](const QModelIndex& row) { didSelectRow(row.row()); });
 }
 
 AboutController::~AboutController() = default;

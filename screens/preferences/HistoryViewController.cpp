@@ -3,9 +3,12 @@
 #include "platform/Paths.h"
 #include "screens/preferences/Fade.h"
 #include "screens/preferences/SaveButton.h"
+#include "text/Utility.h"
 #include "ui_HistoryViewController.h"
 #include "widgets/ToggleSwitch.h"
 
+#include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLocale>
 #include <QSignalBlocker>
@@ -28,13 +31,9 @@ HistoryViewController::HistoryViewController(MyDB& db, const Paths& paths, Log* 
     frame->raise();
     // The one locale whose digits are the program's Arabic-Indic ones; Latin digits still type.
     layout_->picker->setLocale(QLocale(QLocale::Arabic, QLocale::Egypt));
+    layout_->picker->installEventFilter(this);
 
-    {
-        const QSignalBlocker quiet(layout_->picker);
-        layout_->picker->setTime(QTime(occasionTime_.hour(), occasionTime_.minute()));
-    }
-    layout_->switchOn->setChecked(occasionTime_.isOn());
-    showPicker(occasionTime_.isOn(), false);
+    showStored();
     connect(layout_->switchOn, &ToggleSwitch::toggled, this, &HistoryViewController::valueChanged);
     connect(layout_->picker, &QTimeEdit::timeChanged, this, &HistoryViewController::pickerValueChanged);
     connect(saveButton_, &QPushButton::clicked, this, &HistoryViewController::save);
@@ -50,6 +49,41 @@ QTimeEdit* HistoryViewController::picker() const
 ToggleSwitch* HistoryViewController::switchOn() const
 {
     return layout_->switchOn;
+}
+
+// A digit typed on a Latin keyboard shows at once as the program shows digits.
+bool HistoryViewController::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched != layout_->picker || event->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(watched, event);
+    const auto* key = static_cast<QKeyEvent*>(event);
+    const QString typed = key->text();
+    if (typed.size() != 1 || typed[0] < QLatin1Char('0') || typed[0] > QLatin1Char('9'))
+        return QWidget::eventFilter(watched, event);
+    const QString persian = QString::fromStdString(Utility::ConvertToPersian(typed.toStdString()));
+    QKeyEvent shown(QEvent::KeyPress, key->key(), key->modifiers(), persian);
+    QCoreApplication::sendEvent(layout_->picker, &shown);
+    return true;
+}
+
+void HistoryViewController::showStored()
+{
+    {
+        const QSignalBlocker quiet(layout_->picker);
+        layout_->picker->setTime(QTime(occasionTime_.hour(), occasionTime_.minute()));
+    }
+    {
+        const QSignalBlocker quiet(layout_->switchOn);
+        layout_->switchOn->setChecked(occasionTime_.isOn());
+    }
+    showPicker(occasionTime_.isOn(), false);
+    saveButton_->setEnabled(occasionTime_.saveEnabled());
+}
+
+void HistoryViewController::discard()
+{
+    occasionTime_.load();
+    showStored();
 }
 
 void HistoryViewController::showPicker(bool on, bool animated)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/preferences/OccasionTime.h"
+#include "screens/preferences/SavesChanges.h"
 
 #include <QPointer>
 #include <QPushButton>
@@ -22,7 +23,7 @@ class Paths;
 class ToggleSwitch;
 
 // Whether the coming occasions are announced, and at what time of day.
-class HistoryViewController : public QWidget {
+class HistoryViewController : public QWidget, public SavesChanges {
     Q_OBJECT
 
 public:
@@ -39,9 +40,15 @@ public:
 
     void valueChanged(bool on);
     void pickerValueChanged();
-    void save();
+    bool hasUnsavedChange() const override { return occasionTime_.saveEnabled(); }
+    void save() override;
+    void discard() override;
+
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void showStored();
     void showPicker(bool on, bool animated);
 
     std::unique_ptr<::Ui::HistoryViewController> layout_;

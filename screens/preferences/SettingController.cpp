@@ -10,6 +10,7 @@
 #include <QFrame>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QSignalBlocker>
 #include <QSlider>
 #include <QVBoxLayout>
 #include <QVariantAnimation>
@@ -50,14 +51,12 @@ SettingController::SettingController(MyDB& db, QWidget* parent)
         const int switchRows = section == 0 ? ReminderSettings::firstWarning : 1;
         for (int row = 0; row < switchRows; ++row)
             rows->addWidget(makeSwitchRow(ReminderSettings::itemOfSwitch(section, row), group));
-        if (section > 0) {
-            const int index = section - 1;
-            rows->addWidget(makeSliderRow(index, group));
-            showSliderRow(index, settings_.rowCount(section) == 2, false);
-        }
+        if (section > 0)
+            rows->addWidget(makeSliderRow(section - 1, group));
         layout_->sectionsLayout->addWidget(group);
     }
     layout_->sectionsLayout->addStretch();
+    showSettings();
 }
 
 SettingController::~SettingController() = default;
@@ -72,7 +71,6 @@ QWidget* SettingController::makeSwitchRow(int item, QWidget* parent)
     line->addWidget(makeLabel(label, 17, row));
     line->addStretch();
     auto* toggle = new ToggleSwitch(row);
-    toggle->setChecked(settings_.isOn(item));
     toggle->setAccessibleName(label);
     line->addWidget(toggle);
     connect(toggle, &ToggleSwitch::toggled, this, [this, item](bool on) { valueChanged(item, on); });
@@ -86,7 +84,7 @@ QWidget* SettingController::makeSliderRow(int index, QWidget* parent)
     row->setFixedHeight(rowHeight);
     auto* line = new QHBoxLayout(row);
     line->setContentsMargins(12, 0, 14, 0);
-    auto* number = makeLabel(QString::fromStdString(settings_.leadText(index)), 18, row);
+    auto* number = makeLabel(QString(), 18, row);
     number->setMinimumWidth(22);
     number->setAlignment(Qt::AlignCenter);
     line->addWidget(number);
@@ -94,14 +92,36 @@ QWidget* SettingController::makeSliderRow(int index, QWidget* parent)
     auto* slider = new QSlider(Qt::Horizontal, row);
     slider->setRange(0, ReminderSettings::sliderPositions - 1);
     slider->setPageStep(1);
-    slider->setValue(settings_.sliderPosition(index));
     line->addWidget(slider, 1);
     connect(slider, &QSlider::valueChanged, this, [this, index](int position) { sliderChanged(index, position); });
     sliderRows_.at(index) = row;
     sliders_.at(index) = slider;
     numbers_.at(index) = number;
-    updateSliderName(index);
     return row;
+}
+
+void SettingController::showSettings()
+{
+    for (int item = 0; item < ReminderSettings::itemCount; ++item) {
+        const QSignalBlocker quiet(switches_.at(item));
+        switches_.at(item)->setChecked(settings_.isOn(item));
+    }
+    for (int index = 0; index < warningCount; ++index) {
+        {
+            const QSignalBlocker quiet(sliders_.at(index));
+            sliders_.at(index)->setValue(settings_.sliderPosition(index));
+        }
+        numbers_.at(index)->setText(QString::fromStdString(settings_.leadText(index)));
+        updateSliderName(index);
+        showSliderRow(index, settings_.rowCount(index + 1) == 2, false);
+    }
+    saveButton_->setEnabled(settings_.saveEnabled());
+}
+
+void SettingController::discard()
+{
+    settings_.load();
+    showSettings();
 }
 
 void SettingController::updateSliderName(int index)

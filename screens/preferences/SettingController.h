@@ -1,6 +1,7 @@
 #pragma once
 
 #include "screens/preferences/ReminderSettings.h"
+#include "screens/preferences/SavesChanges.h"
 
 #include <QPointer>
 #include <QPushButton>
@@ -23,7 +24,7 @@ class ToggleSwitch;
 
 // Which calls are announced and how long before sunrise, suhur and iftar the warnings come;
 // nothing is written before Save.
-class SettingController : public QWidget {
+class SettingController : public QWidget, public SavesChanges {
     Q_OBJECT
 
 public:
@@ -40,9 +41,13 @@ public:
 
     void valueChanged(int item, bool on);
     void sliderChanged(int index, int position);
-    void save();
+    bool hasUnsavedChange() const override { return settings_.saveEnabled(); }
+    void save() override;
+    void discard() override;
 
 private:
+    // Every switch, slider and number as the settings hold them.
+    void showSettings();
     static constexpr int warningCount = ReminderSettings::itemCount - ReminderSettings::firstWarning;
 
     QWidget* makeSwitchRow(int item, QWidget* parent);

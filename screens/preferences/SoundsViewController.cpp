@@ -4,7 +4,8 @@
 #include "platform/Alerts.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SoundsViewController.h"
-#include "widgets/RowChoice.h"
+#include "widgets/AccessibleFactory.h"
+#include "widgets/ListRowsAccessible.h"
 
 #include <QDir>
 #include <QFileDialog>
@@ -45,12 +46,13 @@ SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPl
     : QWidget(parent), layout_(std::make_unique<::Ui::SoundsViewController>()), choice_(db, paths, audio),
       alerts_(alerts), saveButton_(makeSaveButton(this))
 {
+    installAccessibleInterface<QListWidget, ListRowsAccessible>();
     layout_->setupUi(this);
     layout_->tbl->setIconSize(QSize(markSize, markSize));
     layout_->btnOwnFile->setAccessibleName(layout_->btnOwnFile->text());
     choice_.load();
     buildRows();
-    onRowChosen(layout_->tbl, [this](int row) { didSelectRow(row); });
+    connect(layout_->tbl, &QListWidget::activated, this, [this](const QModelIndex& row) { didSelectRow(row.row()); });
     connect(saveButton_, &QPushButton::clicked, this, &SoundsViewController::save);
     connect(layout_->btnOwnFile, &QPushButton::clicked, this, &SoundsViewController::chooseOwnFile);
 }
@@ -87,7 +89,7 @@ void SoundsViewController::showCheckmark()
     for (int row = 0; row < layout_->tbl->count(); ++row) {
         QListWidgetItem* item = layout_->tbl->item(row);
         item->setIcon(checkmark(checked == row));
-        item->setData(Qt::AccessibleDescriptionRole, checked == row ? QStringLiteral("انتخاب شده") : QString());
+        item->setData(ListRowsAccessible::chosenRole, checked == row);
     }
     layout_->btnOwnFile->setEnabled(checked && choice_.acceptsOwnRecording(*checked));
 }
@@ -106,6 +108,16 @@ void SoundsViewController::save()
     saveButton_->setEnabled(choice_.saveEnabled());
 }
 
+void SoundsViewController::discard()
+{
+    choice_.stopPreview();
+    choice_.load();
+    for (int row = 0; row < SoundChoice::rowCount; ++row)
+        choice_.cellForRow(row);
+    showCheckmark();
+    saveButton_->setEnabled(choice_.saveEnabled());
+}
+
 void SoundsViewController::chooseOwnFile()
 {
     if (fileDialog_)
@@ -113,7 +125,6 @@ void SoundsViewController::chooseOwnFile()
     fileDialog_ = new QFileDialog(this, QStringLiteral("انتخاب فایل صدا"), QDir::homePath(),
                                   QStringLiteral("صدا (*.wav *.ogg *.oga *.opus *.mp3 *.flac *.m4a);;همه فایل ها (*)"));
     fileDialog_->setFileMode(QFileDialog::ExistingFile);
-    fileDialog_->setOption(QFileDialog::DontUseNativeDialog);
     fileDialog_->setAttribute(Qt::WA_DeleteOnClose);
     // Checking the file waits for the media machinery: only once the dialog is gone.
     connect(fileDialog_, &QFileDialog::fileSelected, this, &SoundsViewController::useOwnRecording,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "screens/preferences/SavesChanges.h"
 #include "screens/preferences/SoundChoice.h"
 
 #include <QFileDialog>
@@ -24,7 +25,7 @@ class Paths;
 
 // The recording of the calls to prayer: a tap previews a row, Save stores the checked one,
 // and a person may put their own recording in place of a row's.
-class SoundsViewController : public QWidget {
+class SoundsViewController : public QWidget, public SavesChanges {
     Q_OBJECT
 
 public:
@@ -40,7 +41,9 @@ public:
     QFileDialog* fileDialog() const { return fileDialog_; }
 
     void didSelectRow(int row);
-    void save();
+    bool hasUnsavedChange() const override { return choice_.saveEnabled(); }
+    void save() override;
+    void discard() override;
     // Puts the file in place of the checked row's recording, or says why not.
     void useOwnRecording(const QString& file);
 

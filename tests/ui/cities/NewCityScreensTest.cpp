@@ -1,11 +1,11 @@
 #include "app/PersianFont.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/NewCityController.h"
-#include "screens/cities/OffsetSlider.h"
 #include "screens/cities/SearchController.h"
 #include "screens/cities/SelectionController.h"
 #include "tests/ui/cities/OptionsFixture.h"
 #include "widgets/Animations.h"
+#include "widgets/FineSlider.h"
 #include "widgets/NavigationStack.h"
 
 #include <QAccessible>
@@ -106,7 +106,7 @@ private slots:
             QCOMPARE(editor->rowLabel(i)->text(), persian(rows[i].label));
             QCOMPARE(editor->rowLabel(i)->font().pixelSize(), rows[i].size);
             QVERIFY(editor->rowLabel(i)->font().bold());
-            QCOMPARE(editor->slider(i)->minutes(), 0);
+            QCOMPARE(editor->slider(i)->wholeValue(), 0);
             QCOMPARE(editor->valueLabel(i)->text(), QStringLiteral("\u0660"));
         }
     }
@@ -153,6 +153,25 @@ private slots:
         QCOMPARE(f.countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 64 AND Date = 14000101 AND T1 = 0 AND T2 = 1 "
                            "AND T3 = 0 AND T4 = 0 AND T5 = -2 AND T6 = 5"),
                  1);
+    }
+
+    void leavingTheNameFieldCommitsTheName()
+    {
+        OptionsFixture f;
+        f.choose({32});
+        f.open();
+        QWidget* window = f.tabs()->window();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        NewCityController* editor = openEditor(f);
+        pickProvince(f, editor, QStringLiteral("یزد"));
+        editor->nameField()->setFocus();
+        typeText(editor->nameField(), QStringLiteral("مهریز"));
+        QVERIFY(!editor->btnSave()->isEnabled());
+        QTest::keyClick(editor->nameField(), Qt::Key_Tab);
+        QVERIFY(!editor->nameField()->hasFocus());
+        QCOMPARE(editor->draft().cityName(), persian("مهریز").toStdString());
+        QVERIFY(editor->btnSave()->isEnabled());
     }
 
     void onlyACommittedNameCounts()

@@ -12,6 +12,7 @@
 
 #include <QDir>
 #include <QLabel>
+#include <QTabBar>
 #include <QVBoxLayout>
 #include <QtTest>
 
@@ -71,7 +72,7 @@ void OptionsFixture::closeForm()
 
 NavigationStack* OptionsFixture::navigation() const
 {
-    return qobject_cast<NavigationStack*>(tabs_->page(0));
+    return qobject_cast<NavigationStack*>(tabs_->widget(0));
 }
 
 SelectionController* OptionsFixture::selection() const
@@ -104,6 +105,11 @@ QStringList OptionsFixture::orderings()
 int OptionsFixture::countOf(const char* sql)
 {
     return std::stoi(db_.ExecuteScaler(sql).value_or("-1"));
+}
+
+void OptionsFixture::clickTab(int index) const
+{
+    QTest::mouseClick(tabs_->tabBar(), Qt::LeftButton, {}, tabs_->tabBar()->tabRect(index).center());
 }
 
 void OptionsFixture::saveScreenshot(const QString& name) const

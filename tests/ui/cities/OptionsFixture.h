@@ -65,6 +65,8 @@ public:
     // "id:ordering" of the chosen cities in ascending order.
     QStringList orderings();
     int countOf(const char* sql);
+    // Clicks a tab of the options' bar as a person would.
+    void clickTab(int index) const;
     void saveScreenshot(const QString& name) const;
 
     MyDB& db() { return db_; }

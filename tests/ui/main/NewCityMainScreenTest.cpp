@@ -1,13 +1,13 @@
 #include "app/PersianFont.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/NewCityController.h"
-#include "screens/cities/OffsetSlider.h"
 #include "screens/cities/SearchController.h"
 #include "screens/cities/SelectionController.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/TehranTime.h"
 #include "tests/ui/main/MainScreenFixture.h"
 #include "widgets/Animations.h"
+#include "widgets/FineSlider.h"
 #include "widgets/NavigationStack.h"
 #include "widgets/Pager.h"
 #include "widgets/PresentationStack.h"
@@ -59,7 +59,7 @@ private slots:
         QTest::mouseClick(main.findChild<QAbstractButton*>(QStringLiteral("optionsButton")), Qt::LeftButton);
         auto* options = qobject_cast<CustomUITabBarController*>(f.presentation().top());
         QVERIFY(options);
-        auto* navigation = qobject_cast<NavigationStack*>(options->page(0));
+        auto* navigation = qobject_cast<NavigationStack*>(options->widget(0));
         auto* selection = navigation->findChild<SelectionController*>();
         QVERIFY(selection);
 

@@ -13,13 +13,17 @@
 #include "tests/ui/cities/OptionsFixture.h"
 #include "widgets/Animations.h"
 #include "widgets/NavigationStack.h"
+#include "widgets/PresentationStack.h"
 #include "widgets/ToggleSwitch.h"
 
+#include <QAccessible>
 #include <QFileDialog>
 #include <QLabel>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QSlider>
 #include <QTimeEdit>
+#include <QTimer>
 #include <QToolButton>
 #include <QtTest>
 
@@ -61,13 +65,13 @@ struct Preferences : RecordedServices, OptionsFixture {
 
     template <typename Screen> Screen* showTab(int index)
     {
-        QTest::mouseClick(tabs()->tabButton(index), Qt::LeftButton);
+        clickTab(index);
         if (tabs()->currentIndex() != index)
             return nullptr;
-        return tabs()->page(index)->findChild<Screen*>();
+        return tabs()->widget(index)->findChild<Screen*>();
     }
 
-    NavigationStack* stackOf(int index) const { return qobject_cast<NavigationStack*>(tabs()->page(index)); }
+    NavigationStack* stackOf(int index) const { return qobject_cast<NavigationStack*>(tabs()->widget(index)); }
 
     std::string setting(const std::string& column)
     {
@@ -102,6 +106,20 @@ void pickFile(QFileDialog* dialog, const std::filesystem::path& file)
     QTest::keyClick(dialog, Qt::Key_Return);
 }
 
+// Answers the question the next step asks by the text of its button, and keeps its text.
+void answerNextQuestion(const QString& button, QString* asked)
+{
+    QTimer::singleShot(0, [button, asked] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box)
+            return;
+        *asked = box->text();
+        for (QAbstractButton* choice : box->buttons())
+            if (choice->text() == button)
+                choice->click();
+    });
+}
+
 std::string wav(int number)
 {
     return (shippedResources / (std::to_string(number) + ".wav")).string();
@@ -124,7 +142,7 @@ private slots:
         Preferences f;
         const QStringList titles = {"تنظیمات", "اذان", "مناسبت ها", "درباره ما"};
         for (int tab = 1; tab <= 4; ++tab) {
-            QTest::mouseClick(f.tabs()->tabButton(tab), Qt::LeftButton);
+            f.clickTab(tab);
             QCOMPARE(f.tabs()->currentIndex(), tab);
             QCOMPARE(f.stackOf(tab)->title(), titles[tab - 1]);
             QCOMPARE(f.stackOf(tab)->count(), 1);
@@ -201,6 +219,8 @@ private slots:
         QVERIFY2(settings->sliderRow(1)->isVisible(), "still fading");
         QTRY_VERIFY(!settings->sliderRow(1)->isVisible());
 
+        QString asked;
+        answerNextQuestion(QStringLiteral("دور انداختن"), &asked);
         auto* occasions = f.showTab<HistoryViewController>(3);
         click(occasions->switchOn());
         QVERIFY(occasions->picker()->isVisible());
@@ -231,17 +251,18 @@ private slots:
         QCOMPARE(f.audio.calls.back(), std::string("play"));
         QCOMPARE(screen->choice().selectedPath(), std::optional<int>(8));
         f.saveScreenshot(QStringLiteral("preferences-sounds.png"));
-        f.audio.calls.clear();
-        QVERIFY(f.showTab<HistoryViewController>(3));
-        // Leaving the tab stops the preview.
-        QCOMPARE(f.audio.calls, (Calls{"stop"}));
-
-        auto* again = f.showTab<SoundsViewController>(2);
-        QCOMPARE(again, screen);
-        QVERIFY2(screen->saveButton()->isEnabled(), "the unsaved choice stays");
         click(screen->saveButton());
         QCOMPARE(f.setting("Item6"), std::string("8"));
         QVERIFY(!screen->saveButton()->isEnabled());
+        clickRow(list, 7);
+        f.audio.calls.clear();
+        QString asked;
+        answerNextQuestion(QStringLiteral("دور انداختن"), &asked);
+        QVERIFY(f.showTab<HistoryViewController>(3));
+        // Leaving the tab stops the preview; the dropped choice gives way to the stored one.
+        QCOMPARE(f.audio.calls.front(), std::string("stop"));
+        QCOMPARE(screen->choice().selectedPath(), std::optional<int>(8));
+        QCOMPARE(f.setting("Item6"), std::string("8"));
     }
 
     void anOwnRecordingIsCheckedCopiedAndPlayedFromThenOn()
@@ -309,6 +330,84 @@ private slots:
         QCOMPARE(f.setting("Item7"), std::string("0"));
     }
 
+    void anUnsavedChangeIsAskedForOnLeaving_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QString>("storedDawn");
+        QTest::addColumn<int>("tabAfter");
+        QTest::addColumn<bool>("switchAfter");
+        QTest::newRow("save") << QStringLiteral("ذخیره") << "1" << 2 << true;
+        QTest::newRow("discard") << QStringLiteral("دور انداختن") << "0" << 2 << false;
+        QTest::newRow("cancel") << QStringLiteral("انصراف") << "0" << 1 << true;
+    }
+
+    void anUnsavedChangeIsAskedForOnLeaving()
+    {
+        QFETCH(QString, answer);
+        QFETCH(QString, storedDawn);
+        QFETCH(int, tabAfter);
+        QFETCH(bool, switchAfter);
+        Preferences f({tehran}, "Item0 = 0");
+        auto* settings = f.showTab<SettingController>(1);
+        click(settings->switchOf(0));
+        QString asked;
+        answerNextQuestion(answer, &asked);
+        f.clickTab(2);
+        QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
+        QCOMPARE(f.tabs()->currentIndex(), tabAfter);
+        QCOMPARE(QString::fromStdString(f.setting("Item0")), storedDawn);
+        QCOMPARE(settings->switchOf(0)->isChecked(), switchAfter);
+        QCOMPARE(settings->saveButton()->isEnabled(), tabAfter == 1);
+
+        // Once answered, nothing is asked again on the way back and forth.
+        asked.clear();
+        answerNextQuestion(QStringLiteral("انصراف"), &asked);
+        f.clickTab(0);
+        QCOMPARE(asked.isEmpty(), tabAfter == 2);
+    }
+
+    // Escape closes the options as Done does, and Done too asks for an unsaved change first.
+    void escapeClosesTheOptionsOnlyOnceTheChangeIsAnswered()
+    {
+        Preferences f({tehran}, "Item7 = '0'");
+        QWidget* window = f.tabs()->window();
+        window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(window));
+        auto* occasions = f.showTab<HistoryViewController>(3);
+        click(occasions->switchOn());
+        QString asked;
+        answerNextQuestion(QStringLiteral("انصراف"), &asked);
+        QTest::keyClick(occasions->switchOn(), Qt::Key_Escape);
+        QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
+        QCOMPARE(f.presentation()->depth(), 2);
+        answerNextQuestion(QStringLiteral("ذخیره"), &asked);
+        QTest::keyClick(occasions->switchOn(), Qt::Key_Escape);
+        QCOMPARE(f.presentation()->depth(), 1);
+        QCOMPARE(f.setting("Item7"), "08:00");
+        QCOMPARE(f.pendingAtClose.size(), 1);
+    }
+
+    // A screen reader's press on a row is a tap: the sound is chosen, and reads as chosen.
+    void aSoundRowPressedByAScreenReaderIsChosen()
+    {
+        Preferences f({tehran}, "Item6 = 0");
+        auto* sounds = f.showTab<SoundsViewController>(2);
+        QAccessibleInterface* list = QAccessible::queryAccessibleInterface(sounds->tbl());
+        QAccessibleInterface* medina = list->child(7);
+        QCOMPARE(medina->role(), QAccessible::ListItem);
+        QCOMPARE(medina->text(QAccessible::Name), QStringLiteral("اذان مدینه"));
+        QCOMPARE(medina->actionInterface()->actionNames(), QStringList{QAccessibleActionInterface::pressAction()});
+        QVERIFY(list->child(0)->state().checked);
+        QVERIFY(!medina->state().checked);
+        medina->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QVERIFY(medina->state().checked);
+        QVERIFY(medina->state().selected);
+        QVERIFY(!list->child(0)->state().checked);
+        QVERIFY(f.audio.playing);
+        click(sounds->saveButton());
+        QCOMPARE(f.setting("Item6"), "7");
+    }
+
     void aboutRowsOpenMailOrTheSiteAndWriteNothing()
     {
         Preferences f;
@@ -342,7 +441,7 @@ private slots:
         auto* occasions = f.showTab<HistoryViewController>(3);
         click(occasions->switchOn());
         click(occasions->saveButton());
-        QTest::mouseClick(f.tabs()->tabButton(0), Qt::LeftButton);
+        f.clickTab(0);
         click(f.selection()->btnDone());
         QCOMPARE(f.pendingAtClose.size(), 1);
 

@@ -3,7 +3,6 @@
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
 #include "widgets/PresentationStack.h"
-#include "widgets/TabBarController.h"
 #include "widgets/ToggleSwitch.h"
 
 #include <QAccessible>
@@ -147,31 +146,6 @@ private slots:
         QCOMPARE(toggled.size(), 1);
         toggle->setAccessibleName(QStringLiteral("سحر"));
         QCOMPARE(face->text(QAccessible::Name), QStringLiteral("سحر"));
-    }
-
-    void tabBarRefusesDisabledTabsToTheUserButNotToCode()
-    {
-        TabBarController tabs;
-        for (const char* title : {"cities", "settings", "sounds"})
-            tabs.addTab(new QLabel(QString::fromLatin1(title)), QString::fromLatin1(title));
-        tabs.resize(320, 460);
-        tabs.show();
-        QSignalSpy changed(&tabs, &TabBarController::currentChanged);
-        tabs.setTabEnabled(1, false);
-        QVERIFY(!tabs.isTabEnabled(1));
-        QTest::mouseClick(tabs.tabButton(1), Qt::LeftButton);
-        QCOMPARE(tabs.currentIndex(), 0);
-        QCOMPARE(changed.size(), 0);
-        QTest::mouseClick(tabs.tabButton(2), Qt::LeftButton);
-        QCOMPARE(tabs.currentIndex(), 2);
-        QCOMPARE(changed.takeFirst().first().toInt(), 2);
-        QVERIFY(tabs.page(2)->isVisible());
-        tabs.setTabEnabled(1, true);
-        QTest::mouseClick(tabs.tabButton(1), Qt::LeftButton);
-        QCOMPARE(tabs.currentIndex(), 1);
-        tabs.setTabBarHidden(true);
-        QVERIFY(tabs.isTabBarHidden());
-        QVERIFY(!tabs.tabButton(0)->isVisible());
     }
 
     void navigationPushPopTitlesAndButtons()

@@ -8,9 +8,6 @@
 namespace kavenda {
 namespace {
 
-constexpr int ordinaryScreen = 480;
-constexpr int tallScreen = 568;
-
 Row tehranRow(std::string description = "")
 {
     return Row{
@@ -25,14 +22,6 @@ protected:
     IcuPersianCalendar calendar;
 };
 
-TEST_F(DayPageTest, FrameFollowsTheIndexAndTheScreenHeight)
-{
-    DateTimePersian date = on("920410");
-    EXPECT_EQ(DayPage(tehranRow(), 2, date, ordinaryScreen).frame(), (Frame{640, 0, 320, 460}));
-    EXPECT_EQ(DayPage(tehranRow(), 2, date, tallScreen).frame(), (Frame{640, 44, 320, 460}));
-    EXPECT_EQ(DayPage(tehranRow(), 0, date, 0).frame(), (Frame{0, 0, 320, 460}));
-}
-
 TEST_F(DayPageTest, OccasionShowsTheFirstOfSeveralWithPersianDigits)
 {
     const std::vector<std::pair<std::string, std::string>> cases{
@@ -45,13 +34,13 @@ TEST_F(DayPageTest, OccasionShowsTheFirstOfSeveralWithPersianDigits)
     };
     DateTimePersian date = on("920101");
     for (const auto& [description, shown] : cases)
-        EXPECT_EQ(DayPage(tehranRow(description), 0, date, ordinaryScreen).occasion(), shown) << description;
+        EXPECT_EQ(DayPage(tehranRow(description), date).occasion(), shown) << description;
 }
 
 TEST_F(DayPageTest, NameDateAndTimesInPersianDigits)
 {
     DateTimePersian date = on("920410");
-    const DayPage page(tehranRow(), 0, date, ordinaryScreen);
+    const DayPage page(tehranRow(), date);
     EXPECT_EQ(page.name(), "تهران");
     EXPECT_EQ(page.date(), "١٠ تیر");
     const std::vector<std::string> expected{"٠٥:٥٣", "٠٧:٢٠", "١٣:٠٥", "١٨:٤٩", "١٩:٠٨", "٠٠:٢١", "٠٥:٥٤", "٠٧:٢١"};
@@ -63,14 +52,14 @@ TEST_F(DayPageTest, NameDateAndTimesInPersianDigits)
 TEST_F(DayPageTest, EachTimeReadsAsItsCaptionAndValue)
 {
     DateTimePersian date = on("920410");
-    const DayPage page(tehranRow(), 0, date, ordinaryScreen);
+    const DayPage page(tehranRow(), date);
     const std::vector<std::string> expected{"اذان صبح ٠٥:٥٣",      "طلوع آفتاب ٠٧:٢٠",     "اذان ظهر ١٣:٠٥",
                                             "غروب آفتاب ١٨:٤٩",    "اذان مغرب ١٩:٠٨",      "نیمه شب شرعی ٠٠:٢١",
                                             "اذان صبح فردا ٠٥:٥٤", "طلوع آفتاب فردا ٠٧:٢١"};
     for (int k = 1; k <= DayPage::timeCount; ++k)
         EXPECT_EQ(page.timeReading(k), expected[static_cast<std::size_t>(k - 1)]) << k;
 
-    const DayPage empty(Row{{"Name", "مشهد"}, {"Description", ""}}, 0, date, ordinaryScreen);
+    const DayPage empty(Row{{"Name", "مشهد"}, {"Description", ""}}, date);
     EXPECT_EQ(empty.timeReading(1), "اذان صبح");
     EXPECT_EQ(empty.timeReading(8), "طلوع آفتاب فردا");
 }
@@ -91,7 +80,7 @@ TEST_F(DayPageTest, SummerHourFollowsTheDayOfEachTime)
     for (const Case& c : cases) {
         DateTimePersian date = on("920101");
         date.setDayOfYear(c.dayOfYear);
-        const DayPage page(tehranRow(), 0, date, ordinaryScreen);
+        const DayPage page(tehranRow(), date);
         EXPECT_EQ(page.time(1), c.dawn) << c.dayOfYear;
         EXPECT_EQ(page.time(7), c.nextDawn) << c.dayOfYear;
         EXPECT_EQ(date.dayOfYear(), c.dayOfYear);  // shared with the other pages: left as it was
@@ -101,13 +90,13 @@ TEST_F(DayPageTest, SummerHourFollowsTheDayOfEachTime)
 TEST_F(DayPageTest, NoSummerHourFrom1402)
 {
     DateTimePersian date = on("1020110");
-    EXPECT_EQ(DayPage(tehranRow(), 0, date, ordinaryScreen).time(1), "٠٤:٥٣");
+    EXPECT_EQ(DayPage(tehranRow(), date).time(1), "٠٤:٥٣");
 }
 
 TEST_F(DayPageTest, ARowWithoutTimesShowsNameAndDateOnly)
 {
     DateTimePersian date = on("920501");
-    const DayPage page(Row{{"Name", "مشهد"}, {"Description", ""}}, 1, date, ordinaryScreen);
+    const DayPage page(Row{{"Name", "مشهد"}, {"Description", ""}}, date);
     EXPECT_EQ(page.name(), "مشهد");
     EXPECT_EQ(page.date(), "٠١ مرداد");
     for (int k = 1; k <= DayPage::timeCount; ++k)

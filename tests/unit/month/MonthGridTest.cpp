@@ -15,7 +15,7 @@
 namespace kavenda {
 namespace {
 
-constexpr Rgb holiday = MonthGrid::holidayColour;
+using Ink = DayCell::Ink;
 
 class MonthGridTest : public test::ShippedIcons {
 protected:
@@ -70,8 +70,6 @@ TEST_F(MonthGridTest, PlacesTheDaysOf1392AsItsPagesShowThem)
         const MonthGrid grid = open(c.key);
         const DayCell& found = cell(grid, c.day);
         EXPECT_EQ(found.place, (GridPlace{c.row, c.column, c.day})) << c.key << " day " << c.day;
-        EXPECT_EQ(found.x(), 276 - 46 * c.column);
-        EXPECT_EQ(found.y(), 44 * c.row + 1);
     }
     EXPECT_EQ(shown(open("921201")).cell(30), nullptr);
     EXPECT_EQ(shown(open("920401")).cells.size(), 31u);
@@ -106,31 +104,60 @@ TEST_F(MonthGridTest, ReadsItsMonthWithTheYearsPrefix)
               "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '10507__'");
     const MonthGrid grid = open("920701");
     ASSERT_EQ(grid.datasource().size(), 30u);
-    EXPECT_EQ(grid.monthName(), "مهر");
 }
 
-TEST_F(MonthGridTest, ColoursFridaysAndHolidaysAndMarksOccasions)
+TEST_F(MonthGridTest, TheTitleNamesTheMonthAndTheYearInPersianDigits)
 {
-    const MonthGrid grid = open("920120", test::tehran(2013, 4, 9, 12));  // today 20 Farvardin
-    // 1 Farvardin: a holiday with an occasion.
-    EXPECT_EQ(cell(grid, 1).normalTitle, holiday);
-    EXPECT_EQ(cell(grid, 1).selectedTitle, holiday);
-    EXPECT_EQ(cell(grid, 1).normalBackground, "hasEvent.png");
-    EXPECT_EQ(cell(grid, 1).selectedBackground, "selectedWithEvent.png");
-    // 9 Farvardin: a Friday the data does not call a holiday, with no occasion.
+    struct Case {
+        const char* opened;
+        const char* title;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"920701", "مهر ١٣٩٢"},
+        {"1050915", "آذر ١٤٠٥"},
+        {"1101201", "اسفند ١٤١٠"},
+    };
+    // clang-format on
+    for (const Case& c : cases)
+        EXPECT_EQ(open(c.opened).title(), c.title) << c.opened;
+}
+
+TEST_F(MonthGridTest, DaysCarryTheirMeaningsAndAPickedNumberIsAlwaysOnTheSelectionsInk)
+{
+    struct Case {
+        int day;
+        bool holiday;
+        bool occasion;
+        bool today;
+        bool selected;
+        Ink normal;
+    };
+    // Opened on 13 Farvardin 1392 with today 20 Farvardin. 1: a holiday with an occasion;
+    // 9: a Friday the data does not call a holiday; 13: a holiday, picked; 20: today, with an
+    // occasion; 5: a plain day.
+    // clang-format off
+    const Case cases[] = {
+        {1,  true,  true,  false, false, Ink::holiday},
+        {9,  true,  false, false, false, Ink::holiday},
+        {13, true,  true,  false, true,  Ink::holiday},
+        {20, false, true,  true,  false, Ink::plain},
+        {5,  false, false, false, false, Ink::plain},
+    };
+    // clang-format on
     ASSERT_EQ(scalar("SELECT IsHoliday FROM tEvents WHERE Date = 920109"), "0");
-    EXPECT_EQ(cell(grid, 9).normalTitle, holiday);
-    EXPECT_EQ(cell(grid, 9).normalBackground, "");
-    EXPECT_EQ(cell(grid, 9).selectedBackground, "selected.png");
-    // 5 Farvardin: a plain day.
-    EXPECT_EQ(cell(grid, 5).normalTitle, MonthGrid::black);
-    EXPECT_EQ(cell(grid, 5).selectedTitle, MonthGrid::white);
-    // 20 Farvardin has an occasion, but today's look wins.
+    const MonthGrid grid = open("920113", test::tehran(2013, 4, 9, 12));
+    for (const Case& c : cases) {
+        const DayCell& found = cell(grid, c.day);
+        EXPECT_EQ(found.holiday, c.holiday) << c.day;
+        EXPECT_EQ(found.hasOccasion(), c.occasion) << c.day;
+        EXPECT_EQ(found.today, c.today) << c.day;
+        EXPECT_EQ(found.selected, c.selected) << c.day;
+        EXPECT_EQ(found.ink(false), c.normal) << c.day;
+        EXPECT_EQ(found.ink(true), Ink::onSelection) << c.day;
+    }
     EXPECT_EQ(cell(grid, 20).description,
               "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
-    EXPECT_EQ(cell(grid, 20).normalBackground, "today.png");
-    EXPECT_EQ(cell(grid, 20).selectedBackground, "selected.png");
-    EXPECT_EQ(cell(grid, 20).normalTitle, MonthGrid::black);
 }
 
 TEST_F(MonthGridTest, MarksTheOpenedDayAndTodayAsTheyAreBuilt)
@@ -175,7 +202,7 @@ TEST_F(MonthGridTest, AStepSlidesToTheNextMonthWithNothingSelected)
     EXPECT_FALSE(grid.lastBtn());
     EXPECT_EQ(grid.numberOfRows(), 1);
     EXPECT_EQ(grid.cellText(0), MonthGrid::noOccasion);
-    EXPECT_EQ(grid.monthName(), "مرداد");
+    EXPECT_EQ(grid.title(), "مرداد ١٣٩٢");
 
     // While sliding, steps and today are refused.
     EXPECT_FALSE(grid.changeMonth(+1));
@@ -198,20 +225,82 @@ TEST_F(MonthGridTest, AStepSlidesToTheNextMonthWithNothingSelected)
     EXPECT_EQ(grid.todayBtn()->page, grid.pages().front().id);
 }
 
-TEST_F(MonthGridTest, StepsStopAtTheEndsOfTheYearAndKeepTheSelection)
+TEST_F(MonthGridTest, StepsCrossTheYearWithinTheMonthsTheDatabaseHolds)
 {
-    MonthGrid farvardin = open("920107");
-    EXPECT_FALSE(farvardin.changeMonth(-1));
-    EXPECT_EQ(farvardin.month(), 0);
-    EXPECT_EQ(farvardin.today(), 7);
-    EXPECT_EQ(selectedDays(shown(farvardin)), std::vector<int>{7});
-    EXPECT_TRUE(farvardin.canChange());
+    struct Case {
+        const char* opened;
+        int step;
+        std::optional<std::pair<int, int>> reached;  // year and month index
+    };
+    // The generated data runs from Farvardin 1392 to Esfand 1410.
+    // clang-format off
+    const Case cases[] = {
+        {"921220",  +1, std::pair{1393, 0}},
+        {"1050101", -1, std::pair{1404, 11}},
+        {"1051201", +1, std::pair{1406, 0}},
+        {"920107",  -1, std::nullopt},
+        {"1101201", +1, std::nullopt},
+        {"1101101", +1, std::pair{1410, 11}},
+        {"920201",  -1, std::pair{1392, 0}},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        MonthGrid grid = open(c.opened);
+        const int day = grid.today();
+        EXPECT_EQ(grid.canStep(c.step), c.reached.has_value()) << c.opened;
+        const std::optional<MonthGrid::Switch> step = grid.changeMonth(c.step);
+        ASSERT_EQ(step.has_value(), c.reached.has_value()) << c.opened;
+        if (!step) {
+            // Refused: the screen keeps its month and its selection.
+            EXPECT_EQ(grid.pages().size(), 1u) << c.opened;
+            EXPECT_EQ(grid.today(), day) << c.opened;
+            EXPECT_EQ(selectedDays(shown(grid)), std::vector<int>{day}) << c.opened;
+            EXPECT_TRUE(grid.canChange()) << c.opened;
+            continue;
+        }
+        EXPECT_EQ(step->slot, c.step > 0 ? MonthGrid::Slot::bottom : MonthGrid::Slot::top) << c.opened;
+        grid.scrollViewDidEndScrollingAnimation();
+        EXPECT_EQ(std::pair(grid.year(), grid.month()), *c.reached) << c.opened;
+        EXPECT_EQ(grid.pages().front().year, c.reached->first) << c.opened;
+        EXPECT_EQ(grid.datasource().size(), shown(grid).cells.size()) << c.opened;
+    }
+}
 
-    MonthGrid esfand = open("921220");
-    EXPECT_FALSE(esfand.changeMonth(+1));
-    EXPECT_EQ(esfand.month(), 11);
-    EXPECT_EQ(esfand.today(), 20);
-    EXPECT_EQ(esfand.pages().size(), 1u);
+// The ends come from the data: a database whose occasions stop in Mehr 1400 ends there.
+TEST_F(MonthGridTest, TheLastMonthHeldIsReadFromTheDatabase)
+{
+    ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tEvents WHERE Date > 1000715"));
+    EXPECT_TRUE(open("1000601").canStep(+1));
+    EXPECT_FALSE(open("1000701").canStep(+1));
+    // Opened past the data, it can still step back towards it, and no further on.
+    const MonthGrid past = open("1050101");
+    EXPECT_TRUE(past.canStep(-1));
+    EXPECT_FALSE(past.canStep(+1));
+
+    ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tEvents"));
+    const MonthGrid empty = open("920601");
+    EXPECT_FALSE(empty.canStep(-1));
+    EXPECT_FALSE(empty.canStep(+1));
+}
+
+TEST_F(MonthGridTest, GridKeysMoveByADayOrAWeekWithinTheMonth)
+{
+    struct Case {
+        const char* opened;
+        int from;
+        int step;
+        int to;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {"920101", 10, +1, 11}, {"920101", 10, -7, 3},  {"920101", 10, +7, 17},
+        {"920101", 31, +1, 31}, {"920101", 1, -1, 1},   {"920101", 3, -7, 3},
+        {"920101", 25, +7, 25}, {"920701", 30, +1, 30}, {"920701", 29, +1, 30},
+        {"921201", 29, +1, 29}, {"1081201", 29, +1, 30}, {"1081201", 24, +7, 24},
+    };
+    // clang-format on
+    for (const Case& c : cases)
+        EXPECT_EQ(open(c.opened).dayAfter(c.from, c.step), c.to) << c.opened << " " << c.from << " " << c.step;
 }
 
 TEST_F(MonthGridTest, SteppingIntoTodaysMonthSelectsTodayWhenTheSameDayWasSelected)

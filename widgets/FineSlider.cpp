@@ -1,0 +1,58 @@
+#include "widgets/FineSlider.h"
+
+#include "widgets/AccessibleFactory.h"
+
+#include <QAccessibleWidget>
+
+#include <cmath>
+#include <utility>
+
+namespace kavenda {
+
+namespace {
+
+class FineSliderAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    explicit FineSliderAccessible(FineSlider* slider) : QAccessibleWidget(slider, QAccessible::Slider) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        if (type == QAccessible::ValueInterface)
+            return static_cast<QAccessibleValueInterface*>(this);
+        return QAccessibleWidget::interface_cast(type);
+    }
+
+    QString text(QAccessible::Text kind) const override
+    {
+        if (kind == QAccessible::Value)
+            return QString::number(slider()->wholeValue());
+        return QAccessibleWidget::text(kind);
+    }
+
+    QVariant currentValue() const override { return slider()->wholeValue(); }
+    void setCurrentValue(const QVariant& value) override { slider()->setPosition(value.toDouble()); }
+    QVariant maximumValue() const override { return slider()->maximum() / FineSlider::stepsPerUnit; }
+    QVariant minimumValue() const override { return slider()->minimum() / FineSlider::stepsPerUnit; }
+    QVariant minimumStepSize() const override { return 1; }
+
+private:
+    FineSlider* slider() const { return static_cast<FineSlider*>(widget()); }
+};
+
+}  // namespace
+
+FineSlider::FineSlider(int minimum, int maximum, WholeRule whole, QWidget* parent)
+    : QSlider(Qt::Horizontal, parent), whole_(std::move(whole))
+{
+    installAccessibleInterface<FineSlider, FineSliderAccessible>();
+    setRange(minimum * stepsPerUnit, maximum * stepsPerUnit);
+    setSingleStep(stepsPerUnit);
+    setPageStep(5 * stepsPerUnit);
+}
+
+void FineSlider::setPosition(double units)
+{
+    setValue(static_cast<int>(std::lround(units * stepsPerUnit)));
+}
+
+}  // namespace kavenda
