@@ -1,5 +1,7 @@
 #include "app/MonthCommand.h"
 
+#include "app/HorizonKeeper.h"
+
 #include "calendar/DateTimePersian.h"
 #include "data/MyDB.h"
 #include "screens/calendar/TerminalMonth.h"
@@ -10,7 +12,7 @@
 
 namespace kavenda {
 
-int printMonth(std::string_view argument, const Clock& clock, const PersianCalendar& calendar)
+int printMonth(std::string_view argument, const Clock& clock, const PersianCalendar& calendar, HorizonKeeper& horizon)
 {
     std::optional<TerminalMonth::YearMonth> month;
     if (argument.empty()) {
@@ -24,6 +26,7 @@ int printMonth(std::string_view argument, const Clock& clock, const PersianCalen
                      std::string(argument).c_str());
         return 2;
     }
+    horizon.holdThroughNow(month->year);
     const std::optional<std::string> printed =
         TerminalMonth(MyDB::initialize(), calendar).print(*month, isatty(fileno(stdout)) == 1);
     if (!printed) {

@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/AppServices.h"
+#include "app/HorizonKeeper.h"
 #include "app/MonthCommand.h"
 #include "app/PersianFont.h"
 #include "app/PersianQtTexts.h"
@@ -172,15 +173,18 @@ int main(int argc, char** argv)
     if (const auto problem = workingCopyProblem(MyDB::initialize().dbPath()))
         return reportStartupProblem(*problem, log);
     MyNotification::setUp(*clock, calendar, notifications, random, log);
+    // The working copy holds the coming years as well: computed when fewer than 400 days lie ahead.
+    HorizonKeeper horizon(MyDB::initialize().dbPath(), log);
+    const auto todayKey = [&] { return std::stoi(DateTimePersian::init(*clock, calendar).getPersianDate()); };
 
     if (parser.isSet(reminders)) {
-        MyDB::initialize();
+        horizon.keepAheadNow(todayKey());
         MyNotification::initialize().update();
         std::fputs(reminderList(notifications.pending(), calendar).c_str(), stdout);
         return 0;
     }
     if (parser.isSet(month))
-        return printMonth(parser.positionalArguments().value(0).toStdString(), *clock, calendar);
+        return printMonth(parser.positionalArguments().value(0).toStdString(), *clock, calendar, horizon);
 
     // One program per data folder; a screenshot runs beside it.
     SingleInstance instance(paths.documentsFolder());
@@ -217,14 +221,29 @@ int main(int argc, char** argv)
     QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showWindow);
     QObject::connect(&instance, &SingleInstance::quitRequested, &delegate, &AppDelegate::quit);
 
+    // A page of today moves on to the new day and shows the years just added; a day the person
+    // picked stays.
+    std::string today = DateTimePersian::init(*clock, calendar).getPersianDate();
+    const auto refreshToday = [&] {
+        MainViewController* root = delegate.rootViewController();
+        if (root->localDtp().getPersianDate() == today)
+            root->refresh();
+        today = DateTimePersian::init(*clock, calendar).getPersianDate();
+    };
+
     if (parser.isSet(screenshot)) {
         const QString file = parser.value(screenshot);
-        QTimer::singleShot(settleMilliseconds, &delegate, [&delegate, file] {
-            const bool saved = delegate.window()->grab().save(file, "PNG");
-            if (!saved)
-                std::fprintf(stderr, "kavenda: cannot write %s\n", qPrintable(file));
-            QCoreApplication::exit(saved ? 0 : 1);
+        // The first screen has settled when the coming years it may show are there too.
+        QObject::connect(&horizon, &HorizonKeeper::yearsAdded, &delegate, refreshToday);
+        QObject::connect(&horizon, &HorizonKeeper::settled, &delegate, [&delegate, file] {
+            QTimer::singleShot(settleMilliseconds, &delegate, [&delegate, file] {
+                const bool saved = delegate.window()->grab().save(file, "PNG");
+                if (!saved)
+                    std::fprintf(stderr, "kavenda: cannot write %s\n", qPrintable(file));
+                QCoreApplication::exit(saved ? 0 : 1);
+            });
         });
+        horizon.keepAhead(todayKey());
         // Beside a running program: nothing is announced from here.
         return app->exec();
     }
@@ -249,19 +268,20 @@ int main(int argc, char** argv)
         if (status)
             status->refresh();
     });
-    std::string today = DateTimePersian::init(*clock, calendar).getPersianDate();
+    const auto catchUp = [&] {
+        MyNotification::initialize().update();
+        refreshToday();
+        if (status)
+            status->refresh();
+    };
+    QObject::connect(&horizon, &HorizonKeeper::yearsAdded, &delegate, catchUp);
     Replanning replanning(
         *clock, calendar, log, [&notifications] { notifications.deliverDue(); },
         [&](ReplanWatch::Change) {
-            MyNotification::initialize().update();
-            // A page of today moves on to the new day; a day the person picked stays.
-            MainViewController* root = delegate.rootViewController();
-            if (root->localDtp().getPersianDate() == today)
-                root->refresh();
-            today = DateTimePersian::init(*clock, calendar).getPersianDate();
-            if (status)
-                status->refresh();
+            catchUp();
+            horizon.keepAhead(todayKey());
         });
+    horizon.keepAhead(todayKey());
 
     return app->exec();
 }

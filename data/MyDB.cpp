@@ -22,8 +22,6 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr int busyMilliseconds = 5000;
-
 std::string columnText(sqlite3_stmt* statement, int column)
 {
     const auto* text = sqlite3_column_text(statement, column);
@@ -189,7 +187,7 @@ int MyDB::loadDB()
     const int result = sqlite3_open(dbPath_.c_str(), &database_);
     if (result == SQLITE_OK) {
         // Another writer (a second program, the yearly top-up) holds the file a moment: wait.
-        sqlite3_busy_timeout(database_, busyMilliseconds);
+        sqlite3_busy_timeout(database_, busyTimeoutMilliseconds);
         installNameMatching(database_);
     }
     return result;

@@ -29,6 +29,9 @@ public:
     MyDB(const MyDB&) = delete;
     MyDB& operator=(const MyDB&) = delete;
 
+    // How long a statement waits for a file that another connection is writing.
+    static constexpr int busyTimeoutMilliseconds = 5000;
+
     bool isExist() const;
     std::string getDBPath() const;
     bool copyDB();

@@ -4,7 +4,7 @@
 #include "calendar/DateTimePersian.h"
 #include "desktop/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
-#include "tests/unit/icons/ShippedIcons.h"
+#include "tests/unit/database/ShippedIcons.h"
 #include "text/Format.h"
 
 #include <gtest/gtest.h>

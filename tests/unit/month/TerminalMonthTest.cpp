@@ -1,7 +1,7 @@
 #include "screens/calendar/TerminalMonth.h"
 
 #include "desktop/IcuPersianCalendar.h"
-#include "tests/unit/icons/ShippedIcons.h"
+#include "tests/unit/database/ShippedIcons.h"
 
 #include <gtest/gtest.h>
 

@@ -10,7 +10,7 @@
 #include "tests/support/FixedClock.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
-#include "tests/unit/icons/ShippedIcons.h"
+#include "tests/unit/database/ShippedIcons.h"
 #include "text/Format.h"
 
 #include <algorithm>

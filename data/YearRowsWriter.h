@@ -1,0 +1,15 @@
+#pragma once
+
+namespace kavenda {
+
+class Connection;
+
+namespace almanac {
+struct YearRows;
+}
+
+// Adds a computed year to the database: every row that is not there yet, none changed. The
+// generator writes the shipped years with it, the top-up the years after them.
+void writeYearRows(Connection& db, const almanac::YearRows& rows);
+
+}  // namespace kavenda
