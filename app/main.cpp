@@ -191,8 +191,12 @@ int main(int argc, char** argv)
     if (!parser.isSet(screenshot)) {
         if (instance.handOver(parser.isSet(background)))
             return 0;
-        if (!instance.listen())
+        if (!instance.listen()) {
+            // Another start may have begun listening since the first try.
+            if (instance.handOver(parser.isSet(background)))
+                return 0;
             log.line("cannot watch for a second start; it would run beside this one");
+        }
     }
 
     usePersianFont();

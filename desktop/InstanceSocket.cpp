@@ -7,6 +7,8 @@
 #include <cstring>
 #include <system_error>
 
+#include <fcntl.h>
+#include <sys/file.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
 #include <sys/un.h>
@@ -130,6 +132,21 @@ bool InstanceSocket::listen()
 {
     if (listener_ >= 0)
         return true;
+    // Starts at the same moment take turns: one that found the name bound but not yet listening
+    // would take the socket for a crash's leftover and unlink it under the other's feet.
+    const int folder = ::open(path_.parent_path().c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (folder < 0)
+        return false;
+    ::flock(folder, LOCK_EX);
+    const bool listening = takeName();
+    const int error = errno;
+    ::close(folder);
+    errno = error;
+    return listening;
+}
+
+bool InstanceSocket::takeName()
+{
     if (bindAndListen())
         return true;
     if (errno != EADDRINUSE)

@@ -23,8 +23,8 @@ public:
 
     // Hands one message line to the running program; false when none of this user listens.
     bool send(std::string_view message) const;
-    // Becomes the program that listens; false when the socket cannot be made. A socket left by a
-    // program that died is replaced; one that still answers is not.
+    // Becomes the program that listens; false when the socket cannot be made or another program
+    // listens already. A socket left by a program that died is replaced; one that answers is not.
     bool listen();
     // The listening descriptor, non-blocking; -1 before listen().
     int listener() const { return listener_; }
@@ -38,6 +38,7 @@ public:
     static std::optional<std::filesystem::path> runtimeFolder();
 
 private:
+    bool takeName();
     bool bindAndListen();
 
     std::filesystem::path path_;

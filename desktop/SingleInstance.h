@@ -18,7 +18,7 @@ public:
 
     // True when another instance took the wish: to show its window unless in the background.
     bool handOver(bool background);
-    // Becomes the running instance; false when the socket cannot be made.
+    // Becomes the running instance; false when the socket cannot be made or another listens.
     bool listen();
 
 signals:
