@@ -25,6 +25,7 @@
 #include "desktop/Replanning.h"
 #include "desktop/ShiftedClock.h"
 #include "desktop/SingleInstance.h"
+#include "desktop/TerminationSignals.h"
 #include "desktop/StderrLog.h"
 #include "desktop/SystemClock.h"
 #include "reminders/MyNotification.h"
@@ -224,6 +225,7 @@ int main(int argc, char** argv)
     notifier.setTray(delegate.tray());
     QObject::connect(&instance, &SingleInstance::showRequested, &delegate, &AppDelegate::showWindow);
     QObject::connect(&instance, &SingleInstance::quitRequested, &delegate, &AppDelegate::quit);
+    QObject::connect(new TerminationSignals(&delegate), &TerminationSignals::received, &delegate, &AppDelegate::quit);
 
     // A page of today moves on to the new day and shows the years just added; a day the person
     // picked stays.
