@@ -11,7 +11,9 @@
 #include "data/DataFolderCheck.h"
 #include "data/DataFolderLock.h"
 #include "data/DatabaseCheck.h"
+#include "data/IntValue.h"
 #include "data/MyDB.h"
+#include "data/Statements.h"
 #include "desktop/AudioModule.h"
 #include "desktop/DesktopNotifier.h"
 #include "desktop/DesktopPaths.h"
@@ -181,6 +183,9 @@ int main(int argc, char** argv)
         horizon.keepAheadNow(todayKey());
         MyNotification::initialize().update();
         std::fputs(reminderList(notifications.pending(), calendar).c_str(), stdout);
+        // An empty list would otherwise read as a day without calls.
+        if (intValue(MyDB::initialize().ExecuteScaler(sql::chosenCityCountUnnamed).value_or("0")) == 0)
+            std::fputs("kavenda: no city is chosen, so nothing is announced; choose one in the options\n", stderr);
         return 0;
     }
     if (parser.isSet(month))
