@@ -11,7 +11,9 @@
 #include "data/DataFolderCheck.h"
 #include "data/DataFolderLock.h"
 #include "data/DatabaseCheck.h"
+#include "data/IntValue.h"
 #include "data/MyDB.h"
+#include "data/Statements.h"
 #include "desktop/AudioModule.h"
 #include "desktop/DesktopNotifier.h"
 #include "desktop/DesktopPaths.h"
@@ -182,6 +184,9 @@ int main(int argc, char** argv)
         horizon.keepAheadNow(todayKey());
         MyNotification::initialize().update();
         std::fputs(reminderList(notifications.pending(), calendar).c_str(), stdout);
+        // An empty list would otherwise read as a day without calls.
+        if (intValue(MyDB::initialize().ExecuteScaler(sql::chosenCityCountUnnamed).value_or("0")) == 0)
+            std::fputs("kavenda: no city is chosen, so nothing is announced; choose one in the options\n", stderr);
         return 0;
     }
     if (parser.isSet(month))
@@ -190,6 +195,8 @@ int main(int argc, char** argv)
     // One program per data folder; a screenshot runs beside it.
     SingleInstance instance(paths.documentsFolder());
     if (!parser.isSet(screenshot)) {
+        // Starts at the same moment take turns: one listens, the others find it listening.
+        const DataFolderLock turn(paths.documentsFolder());
         if (instance.handOver(parser.isSet(background)))
             return 0;
         if (!instance.listen()) {

@@ -1,8 +1,10 @@
 #include "widgets/FineSlider.h"
 
 #include "widgets/AccessibleFactory.h"
+#include "widgets/FocusRingStyle.h"
 
 #include <QAccessibleWidget>
+#include <QPainter>
 
 #include <cmath>
 #include <utility>
@@ -53,6 +55,16 @@ FineSlider::FineSlider(int minimum, int maximum, WholeRule whole, QWidget* paren
 void FineSlider::setPosition(double units)
 {
     setValue(static_cast<int>(std::lround(units * stepsPerUnit)));
+}
+
+void FineSlider::paintEvent(QPaintEvent* event)
+{
+    QSlider::paintEvent(event);
+    // Ringed as every other stop is, whatever the style draws on the handle.
+    if (FocusRingStyle::showsFocus(this)) {
+        QPainter painter(this);
+        FocusRingStyle::drawFocusRing(&painter, rect(), palette(), height() / 2.0);
+    }
 }
 
 }  // namespace kavenda

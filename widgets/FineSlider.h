@@ -23,6 +23,9 @@ public:
     void setPosition(double units);
     int wholeValue() const { return whole_(position()); }
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     WholeRule whole_;
 };

@@ -14,7 +14,10 @@ namespace kavenda {
 
 namespace {
 
-constexpr std::string_view weekdayInitials = "ش ی د س چ پ ج";
+constexpr std::string_view weekdayInitials[] = {"ش", "ی", "د", "س", "چ", "پ", "ج"};
+// Before every cell: the grid runs left to right, Saturday first, in a terminal that applies
+// the bidirectional algorithm too; without it, neighbouring numbers would swap places.
+constexpr std::string_view leftToRightMark = "\u200e";
 constexpr std::string_view holidayColour = "\x1b[31m";
 constexpr std::string_view plainColour = "\x1b[0m";
 constexpr int friday = 6;
@@ -79,12 +82,14 @@ std::optional<std::string> TerminalMonth::print(YearMonth month, bool colour) co
     };
 
     std::string out = DateTimePersian::getMonthName(month.month - 1) + ' ' + persianNumber(month.year) + '\n';
-    out += std::string(weekdayInitials) + '\n';
+    for (std::string_view initial : weekdayInitials)
+        out += std::string(leftToRightMark) + "  " + std::string(initial);
+    out += '\n';
     std::string week(static_cast<std::size_t>(3 * shape.firstColumn), ' ');
     for (int day = 1; day <= shape.length; ++day) {
         const int column = (shape.firstColumn + day - 1) % 7;
         const bool holiday = column == friday || value(day, "IsHoliday") == "1";
-        week += ' ' + painted(persianDayCell(day), colour && holiday);
+        week += std::string(leftToRightMark) + ' ' + painted(persianDayCell(day), colour && holiday);
         if (column == friday || day == shape.length) {
             out += withoutTrailingBlanks(week) + '\n';
             week.clear();

@@ -55,6 +55,9 @@ void CustomUITabBarController::setPreferencesEnabled(bool enabled)
 void CustomUITabBarController::setTabBarHidden(bool hidden)
 {
     tabBar()->setHidden(hidden);
+    // The bar is the tab widget's focus proxy: a Tab stop at a hidden bar keeps the focus
+    // where it was, and the last control of the screen would hold it for good.
+    setFocusPolicy(hidden ? Qt::NoFocus : Qt::TabFocus);
     // The pages take the bar's room now, not at the next turn of the event loop.
     QEvent relayout(QEvent::LayoutRequest);
     QCoreApplication::sendEvent(this, &relayout);

@@ -133,6 +133,20 @@ TEST_F(StartupFailures, AnEmptyWorkingCopyIsReplacedAndLeftoversRemoved)
     EXPECT_FALSE(fs::exists(data() / "Icons.partial-777"));
 }
 
+TEST_F(StartupFailures, RemindersWithoutAChosenCitySaySoAndStillSucceed)
+{
+    workingCopyWithACity();
+    Outcome result = start("--reminders");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_NE(result.out, "");
+    EXPECT_EQ(result.err.find("no city"), std::string::npos) << result.err;
+    test::execSql(working(), "DELETE FROM tSelectedStates");
+    result = start("--reminders");
+    EXPECT_EQ(result.status, 0);
+    EXPECT_EQ(result.out, "");
+    EXPECT_EQ(result.err, "kavenda: no city is chosen, so nothing is announced; choose one in the options\n");
+}
+
 TEST_F(StartupFailures, AWorkingCopyWithoutTheTablesIsReportedAndKept)
 {
     fs::create_directories(data());

@@ -19,6 +19,16 @@ std::vector<std::string> lines(const std::string& text)
     return found;
 }
 
+// The lines as a terminal without directional marks shows them.
+std::vector<std::string> shown(std::vector<std::string> printed)
+{
+    const std::string mark = "\u200e";
+    for (std::string& line : printed)
+        for (std::size_t at; (at = line.find(mark)) != std::string::npos;)
+            line.erase(at, mark.size());
+    return printed;
+}
+
 class TerminalMonthTest : public test::ShippedIcons {
 protected:
     IcuPersianCalendar calendar;
@@ -42,7 +52,7 @@ TEST_F(TerminalMonthTest, PrintsFarvardin1392WithItsHolidays)
     ASSERT_TRUE(printed);
     const std::vector<std::string> expected{
         "فروردین ١٣٩٢",
-        "ش ی د س چ پ ج",
+        "  ش  ی  د  س  چ  پ  ج",
         std::string(15, ' ') + "  ١  ٢",
         "  ٣  ٤  ٥  ٦  ٧  ٨  ٩",
         " ١٠ ١١ ١٢ ١٣ ١٤ ١٥ ١٦",
@@ -60,7 +70,7 @@ TEST_F(TerminalMonthTest, PrintsFarvardin1392WithItsHolidays)
         "٢٥* شهادت حضرت فاطمه زهرا (س) - روز بزرگداشت عطار نیشابوری",
         "٢٩ روز ارتش جمهوری اسلامی ایران",
     };
-    EXPECT_EQ(lines(*printed), expected);
+    EXPECT_EQ(shown(lines(*printed)), expected);
     EXPECT_EQ(printed->find('\x1b'), std::string::npos);
 }
 
@@ -68,7 +78,7 @@ TEST_F(TerminalMonthTest, ColoursHolidaysAndFridaysOnlyWhenAsked)
 {
     const std::string red = "\x1b[31m";
     const std::string plain = "\x1b[0m";
-    const std::vector<std::string> printed = lines(*month.print({1392, 1}, true));
+    const std::vector<std::string> printed = shown(lines(*month.print({1392, 1}, true)));
     // Thursday 1 (holiday) and Friday 2; Friday 9 is no holiday in the data but is coloured.
     EXPECT_EQ(printed[2], std::string(15, ' ') + ' ' + red + " ١" + plain + ' ' + red + " ٢" + plain);
     EXPECT_EQ(printed[3], ' ' + red + " ٣" + plain + ' ' + red + " ٤" + plain + "  ٥  ٦  ٧  ٨ " + red + " ٩" + plain);
@@ -77,10 +87,34 @@ TEST_F(TerminalMonthTest, ColoursHolidaysAndFridaysOnlyWhenAsked)
     EXPECT_EQ(printed[15], "٢٠ روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
 }
 
+// Every cell of the grid, weekday or day, opens with a left-to-right mark, three columns wide: 1
+// Azar 1405, a Sunday, stands under "ی" whether or not the terminal reorders the line.
+TEST_F(TerminalMonthTest, TheGridKeepsItsColumnsInEveryTerminal)
+{
+    const std::vector<std::string> azar = lines(*month.print({1405, 9}, false));
+    const std::string mark = "\u200e";
+    const auto cells = [&mark](const std::string& line) {
+        std::vector<std::string> found;
+        for (std::size_t at = line.find(mark); at != std::string::npos;) {
+            const std::size_t next = line.find(mark, at + mark.size());
+            found.push_back(line.substr(at + mark.size(), next == std::string::npos ? next : next - at - mark.size()));
+            at = next;
+        }
+        return found;
+    };
+    ASSERT_EQ(cells(azar[1]).size(), 7u);
+    EXPECT_EQ(cells(azar[1])[1], "  ی");
+    EXPECT_EQ(azar[2].substr(0, 3), "   ");  // Saturday empty
+    EXPECT_EQ(cells(azar[2]).front(), "  ١");
+    EXPECT_EQ(cells(azar[2]).size(), 6u);
+    for (std::size_t row = 3; row <= 5; ++row)
+        EXPECT_EQ(cells(azar[row]).size(), 7u) << row;
+}
+
 TEST_F(TerminalMonthTest, LaterYearsAndMonthsOutsideTheData)
 {
     // Esfand 1408 has 30 days and starts on a Tuesday (336 days after Tuesday 1 Farvardin).
-    const std::vector<std::string> esfand = lines(*month.print({1408, 12}, false));
+    const std::vector<std::string> esfand = shown(lines(*month.print({1408, 12}, false)));
     EXPECT_EQ(esfand[0], "اسفند ١٤٠٨");
     EXPECT_EQ(esfand[2], std::string(9, ' ') + "  ١  ٢  ٣  ٤");
     EXPECT_EQ(esfand[6], " ٢٦ ٢٧ ٢٨ ٢٩ ٣٠");
