@@ -195,8 +195,6 @@ int main(int argc, char** argv)
     // One program per data folder; a screenshot runs beside it.
     SingleInstance instance(paths.documentsFolder());
     if (!parser.isSet(screenshot)) {
-        // Starts at the same moment take turns: one listens, the others find it listening.
-        const DataFolderLock turn(paths.documentsFolder());
         if (instance.handOver(parser.isSet(background)))
             return 0;
         if (!instance.listen()) {
