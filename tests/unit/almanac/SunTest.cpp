@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <string>
 
 namespace kavenda::almanac {
 namespace {
@@ -42,7 +43,8 @@ INSTANTIATE_TEST_SUITE_P(Extremes, SunAgainstTheAlmanac, ::testing::Values(
     AlmanacCase{2013, 11, 3, NAN, 16.4},       // and at its autumn maximum
     AlmanacCase{2013, 6, 21, 23.44, -1.6},     // June solstice
     AlmanacCase{2013, 12, 21, -23.44, 1.9},    // December solstice
-    AlmanacCase{2013, 3, 20, -0.2, -7.6}));    // near the March equinox
+    AlmanacCase{2013, 3, 20, -0.2, -7.6}),
+    [](const auto& named) { const AlmanacCase& c = named.param; return "On_" + std::to_string(c.year) + "_" + std::to_string(c.month) + "_" + std::to_string(c.day); });    // near the March equinox
 
 // The table's straight lines between midnights stay on libnova's curve, also where the right
 // ascension passes 360 (the March equinox) and where the declination turns (the solstices).

@@ -1,6 +1,7 @@
 #include "calendar/DateTimePersian.h"
 #include "desktop/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
+#include "text/Format.h"
 
 #include <gtest/gtest.h>
 
@@ -60,7 +61,8 @@ INSTANTIATE_TEST_SUITE_P(KnownDays, FromClock, ::testing::Values(
     ClockCase{2029, 3, 20, 1408, 1, 1, 1},
     ClockCase{2029, 7, 1, 1408, 4, 11, 104},
     ClockCase{2030, 3, 20, 1408, 12, 30, 366},
-    ClockCase{2030, 3, 21, 1409, 1, 1, 1}));
+    ClockCase{2030, 3, 21, 1409, 1, 1, 1}),
+    [](const auto& named) { const ClockCase& c = named.param; return format("Tehran_%d_%02d_%02d", {c.gy, c.gm, c.gd}); });
 // clang-format on
 
 TEST(FromClockOverYears, ConsecutiveDaysGiveConsecutiveDaysOfTheYear)
@@ -109,7 +111,8 @@ INSTANTIATE_TEST_SUITE_P(SixAndSevenCharacters, FromKey, ::testing::Values(
     KeyCase{"911230", 91, 12, 30, 366},
     KeyCase{"1000101", 100, 1, 1, 1},
     KeyCase{"1050901", 105, 9, 1, 247},
-    KeyCase{"1031230", 103, 12, 30, 366}));
+    KeyCase{"1031230", 103, 12, 30, 366}),
+    [](const auto& named) { return std::string("Key") + named.param.key; });
 // clang-format on
 
 TEST(DateKey, FullAndTwoDigitYearsWriteTheSameKey)

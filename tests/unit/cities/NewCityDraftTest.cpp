@@ -1,15 +1,7 @@
 #include "screens/cities/NewCityDraft.h"
 
-#include "calendar/DateTimePersian.h"
-#include "desktop/IcuPersianCalendar.h"
-#include "reminders/MyNotification.h"
 #include "screens/cities/ChosenCities.h"
 #include "screens/cities/CitySearch.h"
-#include "screens/main/CityPages.h"
-#include "tests/support/FixedClock.h"
-#include "tests/support/RecordingNotificationService.h"
-#include "tests/support/ScriptedRandom.h"
-#include "tests/support/TehranTime.h"
 #include "tests/unit/cities/CitiesFixture.h"
 
 #include <gtest/gtest.h>
@@ -231,45 +223,6 @@ TEST_F(NewCityDraftTest, RemovingTheNewCityFromTheListDeletesItsPlaceAndOffsets)
     EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 64"), 0);
     EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 64"), 0);
     EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 8"), 1);
-}
-
-TEST_F(NewCityDraftTest, ThePageAndTheRemindersOfTheNewCityShiftItsCentresTimes)
-{
-    exec("UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 15, Item4 = 30, Item5 = 10");
-    draft.commitName("پردیس");
-    draft.setProvince(tehranProvince, "تهران");
-    const double positions[] = {-3, 2, 5, 0, 7, -0.5};
-    for (int i = 0; i < 6; ++i)
-        draft.setOffset(i, positions[i]);
-    ASSERT_TRUE(draft.save());
-    choose(33, 5);  // a second city after it: the new one stays first
-
-    IcuPersianCalendar calendar;
-    CityPages pages(db);
-    pages.updateDataSource(DateTimePersian::initWithPersianDate("920820", calendar));
-    ASSERT_EQ(pages.datasource().size(), 2u);
-    const Row& page = pages.datasource()[1];  // the first city's page is the last
-    // 920820 of تهران: 4:35 6:04 11:50 17:05 17:24 23:00; the next day 4:38 6:05.
-    EXPECT_EQ(page.at("Name"), "پردیس");
-    const std::vector<std::string> expected = {"4:32", "6:6", "11:55", "17:5", "17:31", "22:59", "4:35", "6:7"};
-    for (int k = 1; k <= 8; ++k)
-        EXPECT_EQ(page.at("T" + std::to_string(k)), expected[static_cast<std::size_t>(k - 1)]) << k;
-
-    FixedClock clock{test::tehran(2013, 11, 11, 0, 1)};
-    test::RecordingNotificationService notifications;
-    test::ScriptedRandom random{{0}};
-    MyNotification reminders(db, clock, calendar, notifications, random, log);
-    reminders.update();
-    std::vector<NotificationRecord> prayers;
-    for (const auto& record : notifications.records)
-        if (record.alertBody.find("پردیس") != std::string::npos)
-            prayers.push_back(record);
-    ASSERT_EQ(prayers.size(), 12u) << "three calls a day, on the four days after the offset row";
-    EXPECT_EQ(prayers[0].alertBody, "اذان صبح به افق پردیس");
-    EXPECT_EQ(prayers[0].fireDate, test::tehran(2013, 11, 11, 4, 32));
-    EXPECT_EQ(prayers[1].fireDate, test::tehran(2013, 11, 11, 11, 55));
-    EXPECT_EQ(prayers[2].fireDate, test::tehran(2013, 11, 11, 17, 31));
-    EXPECT_EQ(prayers[11].fireDate, test::tehran(2013, 11, 14, 17, 34));  // 17:27 of 920823
 }
 
 }  // namespace

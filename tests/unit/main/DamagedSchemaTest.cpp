@@ -69,7 +69,13 @@ INSTANTIATE_TEST_SUITE_P(RenamedColumns, DamagedSchema, ::testing::Values(
     "ALTER TABLE tSelectedStates RENAME COLUMN Ordering TO Position",
     "ALTER TABLE tTimes RENAME COLUMN T1 TO Dawn",
     "ALTER TABLE tEvents RENAME COLUMN Description TO Text",
-    "ALTER TABLE tSetting RENAME COLUMN Item7 TO AnnounceAt"));
+    "ALTER TABLE tSetting RENAME COLUMN Item7 TO AnnounceAt"),
+    [](const auto& named) {
+        // "ALTER TABLE tStates RENAME COLUMN Name TO Title" is named tStates_Name.
+        const std::string sql = named.param;
+        const auto word = [&sql](std::size_t after) { const auto end = sql.find(' ', after); return sql.substr(after, end - after); };
+        return word(sql.find("TABLE ") + 6) + "_" + word(sql.find("COLUMN ") + 7);
+    });
 // clang-format on
 
 // The case a person met: tStates.Name renamed used to abort the program as the main screen

@@ -9,21 +9,6 @@
 namespace kavenda {
 namespace {
 
-TEST(AboutRowsTest, RowsReadLetterForLetter)
-{
-    const AboutRows rows("https://example.net/k", "help@example.net");
-    EXPECT_EQ(rows.text(0), "تیم کاوندا");
-    EXPECT_EQ(rows.text(1), "فروردین ۹۲");
-    EXPECT_EQ(rows.text(2), "نسخه :                                         ۱.۶");
-    EXPECT_EQ(rows.text(3), "پست الکترونیک :           help@example.net");
-    EXPECT_EQ(rows.text(4), "وب سایت :                  https://example.net/k");
-    EXPECT_EQ(rows.text(5), "");
-    for (int row = 0; row < AboutRows::rowCount; ++row) {
-        EXPECT_EQ(AboutRows::isCentred(row), row < 2) << row;
-        EXPECT_EQ(AboutRows::highlightsOnTap(row), row >= 3) << row;
-    }
-}
-
 TEST(AboutRowsTest, TheWebRowOpensTheSiteAndEveryOtherRowAMail)
 {
     const AboutRows rows("https://example.net/k", "help@example.net");

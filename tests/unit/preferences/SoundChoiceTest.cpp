@@ -126,18 +126,6 @@ TEST_F(SoundChoiceTest, BuildingTheStoredRowAgainPutsTheCheckmarkBack)
     EXPECT_EQ(choice.selectedPath(), 2);
 }
 
-TEST_F(SoundChoiceTest, LabelsNameTheModesAndTheFixedRows)
-{
-    EXPECT_EQ(SoundChoice::label(7), "اذان مدینه");
-    EXPECT_EQ(SoundChoice::label(8), "اذان مکه");
-    EXPECT_EQ(SoundChoice::label(9), "تصادفی");
-    EXPECT_EQ(SoundChoice::label(10), "بیپ");
-    const std::vector<std::string> modes = {"بیات", "حجاز", "راست", "سه‌گاه", "نهاوند", "کرد", "صبا"};
-    for (int row = 0; row < 7; ++row)
-        EXPECT_NE(SoundChoice::label(row).find(modes[row]), std::string::npos) << row;
-    EXPECT_EQ(SoundChoice::fileName(10), "10.wav");
-}
-
 TEST_F(SoundChoiceTest, AnOwnRecordingIsCopiedUnderTheRowsNameAndPreferredFromThenOn)
 {
     const auto source = temp.path() / "my call.ogg";

@@ -151,7 +151,8 @@ TEST_P(JumpOverTheNoonCall, FiresWhatIsAtMostFifteenMinutesLateAndDropsTheRest)
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Lateness, JumpOverTheNoonCall,
                          ::testing::Values(Jump{1min, true}, Jump{10min, true}, Jump{15min, true}, Jump{16min, false},
-                                           Jump{3h, false}));
+                                           Jump{3h, false}),
+                         [](const auto& named) { return "Late" + std::to_string(named.param.pastNoon.count()) + "min"; });
 // clang-format on
 
 TEST_F(RunningReminders, ANewTimeZoneRebuildsTheRemindersInIt)

@@ -17,7 +17,6 @@ namespace {
 using test::tehran;
 
 constexpr int tehranCentre = 39;
-constexpr int tehranProvince = 8;
 
 class ShippedReminders : public test::ShippedIcons {
 protected:
@@ -79,25 +78,6 @@ TEST_F(ShippedReminders, OnlyTheThreeCallsAreCalls)
     for (std::size_t i = 0; i < records.size(); ++i) {
         const bool call = i >= 5 && (i - 5) % 6 < 3;
         EXPECT_EQ(MyNotification::isCall(records[i].alertBody), call) << records[i].alertBody;
-    }
-}
-
-TEST_F(ShippedReminders, ACityMadeByTheUserIsShiftedFromItsCentre)
-{
-    ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertCity, {"شهریار", tehranProvince})));
-    const int city = std::stoi(scalar(std::string(sql::highestPlaceId)));
-    ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertOffsetRow, {city, "14000101", "-3", "2", "5", "0", "7", "0"})));
-
-    const auto records = updateFor(city);
-    ASSERT_EQ(records.size(), 5u + 24u);
-    EXPECT_EQ(records[5].alertBody, "اذان صبح به افق شهریار");
-    for (int day = 1; day <= 4; ++day) {
-        const auto at = records.begin() + 5 + 6 * (day - 1);
-        EXPECT_EQ(at[0].fireDate, stored(day, "T1", -3)) << day;
-        EXPECT_EQ(at[1].fireDate, stored(day, "T3", 5)) << day;
-        EXPECT_EQ(at[2].fireDate, stored(day, "T5", 7)) << day;
-        EXPECT_EQ(at[3].fireDate, stored(day, "T2", 2 - 10)) << day;
-        EXPECT_EQ(at[5].fireDate, stored(day, "T5", 7 - 15)) << day;
     }
 }
 
