@@ -185,14 +185,6 @@ private slots:
                      "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی")});
         for (const char* name : {"previousButton", "nextButton", "todayButton", "detailsButton"})
             QVERIFY(calendar.findChild<QAbstractButton*>(QLatin1String(name))->isVisible());
-        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("previousButton"))->accessibleName(),
-                 QStringLiteral("ماه قبل"));
-        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("nextButton"))->accessibleName(),
-                 QStringLiteral("ماه بعد"));
-        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("todayButton"))->accessibleName(),
-                 QStringLiteral("امروز"));
-        QCOMPARE(calendar.findChild<QAbstractButton*>(QStringLiteral("detailsButton"))->accessibleName(),
-                 QStringLiteral("انتخاب"));
         c.f.saveScreenshot(QStringLiteral("calendar-1392-01.png"));
 
         // Nothing is held before Farvardin 1392: the arrow back is off, and a tap does nothing.

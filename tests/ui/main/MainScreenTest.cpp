@@ -2,9 +2,13 @@
 #include "calendar/DateTimePersian.h"
 #include "desktop/SystemClock.h"
 #include "screens/cities/CustomUITabBarController.h"
+#include "screens/cities/NewCityController.h"
+#include "screens/cities/SearchController.h"
+#include "screens/cities/SelectionController.h"
 #include "screens/main/CustomUIImageView.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/TehranTime.h"
+#include "tests/ui/AccessibleWalk.h"
 #include "tests/ui/main/MainScreenFixture.h"
 #include "widgets/Animations.h"
 #include "widgets/PageIndicator.h"
@@ -15,7 +19,10 @@
 #include <QAccessible>
 #include <QAccessibleValueInterface>
 #include <QLabel>
+#include <QListWidget>
 #include <QPointer>
+#include <QPushButton>
+#include <QTabBar>
 #include <QtTest>
 
 namespace kavenda {
@@ -26,11 +33,6 @@ using test::MainScreenFixture;
 // 10 Tir 1392, 12:00: a summer day of 1392, with the summer hour.
 const Instant summerDay = test::tehran(2013, 7, 1, 12, 0);
 constexpr int tehran = 32, isfahan = 33, mashhad = 34, varamin = 64;
-
-QRect frameOf(const MainViewController& main, const char* name)
-{
-    return main.findChild<QWidget*>(QLatin1String(name))->geometry();
-}
 
 bool isWhite(QRgb pixel)
 {
@@ -224,17 +226,11 @@ private slots:
         QCOMPARE(main.pageCount(), 3);
     }
 
-    void aScreenReaderFindsEveryControlByItsPersianName()
+    void theIndicatorAndThePagesReadToAScreenReader()
     {
         MainScreenFixture f(summerDay);
         f.choose({tehran, isfahan, mashhad});
         MainViewController& main = f.show();
-
-        QAccessibleInterface* options =
-            QAccessible::queryAccessibleInterface(main.findChild<QWidget*>(QStringLiteral("optionsButton")));
-        QCOMPARE(options->role(), QAccessible::Button);
-        QCOMPARE(options->text(QAccessible::Name), QStringLiteral("گزینه ها"));
-        QCOMPARE(accessibleName(main.findChild<QWidget*>(QStringLiteral("calendarButton"))), QStringLiteral("تقویم"));
 
         QAccessibleInterface* indicator = QAccessible::queryAccessibleInterface(main.pageControl());
         QCOMPARE(indicator->role(), QAccessible::Slider);
@@ -264,45 +260,59 @@ private slots:
         QCOMPARE(readings.size(), 8);
     }
 
-    void controlsSitAtTheirFramesOnBothScreens_data()
+    // Every screen and tab, walked as a screen reader meets it.
+    void everyControlOfEveryScreenHasAPersianNameAndARole()
     {
-        QTest::addColumn<int>("screenHeight");
-        QTest::addColumn<QRect>("scrollView");
-        QTest::addColumn<QRect>("indicator");
-        QTest::addColumn<QRect>("options");
-        QTest::addColumn<QRect>("calendar");
-        QTest::addColumn<QRect>("nameLabel");
-        QTest::newRow("ordinary") << 480 << QRect(0, 0, 320, 460) << QRect(0, 425, 320, 36) << QRect(290, 430, 18, 19)
-                                  << QRect(15, 425, 34, 32) << QRect(500, 45, 100, 40);
-        QTest::newRow("tall") << 568 << QRect(0, 0, 320, 548) << QRect(0, 513, 320, 36) << QRect(290, 518, 18, 19)
-                              << QRect(15, 513, 34, 32) << QRect(500, 89, 100, 40);
-    }
-
-    void controlsSitAtTheirFramesOnBothScreens()
-    {
-        QFETCH(int, screenHeight);
-        QFETCH(QRect, scrollView);
-        QFETCH(QRect, indicator);
-        QFETCH(QRect, options);
-        QFETCH(QRect, calendar);
-        QFETCH(QRect, nameLabel);
-        MainScreenFixture f(summerDay, screenHeight);
+        MainScreenFixture f(summerDay);
         f.choose({tehran, isfahan});
         MainViewController& main = f.show();
-        QCOMPARE(f.window().height(), screenHeight - 20);
-        QCOMPARE(main.scrollView()->geometry(), scrollView);
-        QCOMPARE(main.pageControl()->geometry(), indicator);
-        QCOMPARE(frameOf(main, "optionsButton"), options);
-        QCOMPARE(frameOf(main, "calendarButton"), calendar);
-        // The second page's name, in the pager's content: the page's frame plus the text's, inside
-        // the label's margin for its shadow.
-        CustomUIImageView* page = f.pages().last();
-        const QLabel* name = page->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).first();
-        const QRect text = name->contentsRect();
-        QCOMPARE(QRect(page->mapToParent(name->mapToParent(text.topLeft())), text.size()), nameLabel);
-        QCOMPARE(main.scrollView()->contentWidth(), 640);
-        if (screenHeight == 568)
-            f.saveScreenshot(QStringLiteral("main-tall.png"));
+        QStringList faults;
+        const auto walk = [&](const QString& screen) {
+            QWidget* top = f.presentation().top();
+            QVERIFY(top);
+            for (const QString& fault : test::unnamedControls(top))
+                faults << screen + QStringLiteral(": ") + fault;
+        };
+        walk(QStringLiteral("main"));
+
+        QTest::mouseClick(main.findChild<QAbstractButton*>(QStringLiteral("calendarButton")), Qt::LeftButton);
+        QCOMPARE(f.presentation().depth(), 2);
+        walk(QStringLiteral("calendar"));
+        QTest::keyClick(f.presentation().top(), Qt::Key_Escape);
+        QCOMPARE(f.presentation().top(), &main);
+
+        QTest::mouseClick(main.findChild<QAbstractButton*>(QStringLiteral("optionsButton")), Qt::LeftButton);
+        auto* tabs = qobject_cast<CustomUITabBarController*>(f.presentation().top());
+        QVERIFY(tabs);
+        QTabBar* bar = tabs->tabBar();
+        for (int tab = bar->count() - 1; tab >= 0; --tab) {
+            QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(tab).center());
+            QCOMPARE(tabs->currentIndex(), tab);
+            walk(QStringLiteral("tab ") + bar->tabText(tab));
+        }
+
+        auto* selection = tabs->findChild<SelectionController*>();
+        QTest::mouseClick(selection->btnSearch(), Qt::LeftButton);
+        auto* search = tabs->findChild<SearchController*>();
+        QVERIFY(search);
+        walk(QStringLiteral("search"));
+        QTest::mouseClick(search->cancelButton(), Qt::LeftButton);
+
+        QListWidget* createRow = selection->createNewCityTable();
+        QTest::mouseClick(createRow->viewport(), Qt::LeftButton, {},
+                          createRow->visualItemRect(createRow->item(0)).center());
+        QVERIFY(tabs->findChild<NewCityController*>());
+        walk(QStringLiteral("new city"));
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
+    }
+
+    void aTallScreenGivesTheWindowItsHeight()
+    {
+        MainScreenFixture f(summerDay, 568);
+        f.choose({tehran, isfahan});
+        f.show();
+        QCOMPARE(f.window().height(), 548);
+        f.saveScreenshot(QStringLiteral("main-tall.png"));
     }
 
     void aPickedDayStaysUntilTheNextRefresh()

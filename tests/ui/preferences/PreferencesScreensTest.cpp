@@ -12,7 +12,6 @@
 #include "tests/support/RecordingUrlOpener.h"
 #include "tests/ui/cities/OptionsFixture.h"
 #include "widgets/Animations.h"
-#include "widgets/NavigationStack.h"
 #include "widgets/PresentationStack.h"
 #include "widgets/ToggleSwitch.h"
 
@@ -70,8 +69,6 @@ struct Preferences : RecordedServices, OptionsFixture {
             return nullptr;
         return tabs()->widget(index)->findChild<Screen*>();
     }
-
-    NavigationStack* stackOf(int index) const { return qobject_cast<NavigationStack*>(tabs()->widget(index)); }
 
     std::string setting(const std::string& column)
     {
@@ -135,39 +132,6 @@ private slots:
     {
         setAnimationsEnabled(false);
         usePersianFont();
-    }
-
-    void eachTabHasItsStackTitleAndSaveOnTheRight()
-    {
-        Preferences f;
-        const QStringList titles = {"تنظیمات", "اذان", "مناسبت ها", "درباره ما"};
-        for (int tab = 1; tab <= 4; ++tab) {
-            f.clickTab(tab);
-            QCOMPARE(f.tabs()->currentIndex(), tab);
-            QCOMPARE(f.stackOf(tab)->title(), titles[tab - 1]);
-            QCOMPARE(f.stackOf(tab)->count(), 1);
-            const auto saves = f.stackOf(tab)->findChildren<QPushButton*>();
-            const auto save = std::find_if(saves.begin(), saves.end(),
-                                           [](QPushButton* b) { return b->text() == QStringLiteral("ذخیره"); });
-            if (tab == 4) {
-                QVERIFY(save == saves.end());
-                continue;
-            }
-            QVERIFY(save != saves.end());
-            QVERIFY((*save)->isVisible());
-            QVERIFY(!(*save)->isEnabled());
-            QCOMPARE((*save)->accessibleName(), QStringLiteral("ذخیره"));
-            QVERIFY2((*save)->mapTo(f.stackOf(tab), QPoint()).x() > 160, "on the right of the bar");
-        }
-    }
-
-    void withoutACityOnlyTheAboutTabOfThePreferencesOpens()
-    {
-        Preferences f({});
-        QTRY_VERIFY(f.search());
-        for (int tab = 1; tab <= 3; ++tab)
-            QVERIFY(!f.tabs()->isTabEnabled(tab));
-        QVERIFY(f.showTab<AboutController>(4));
     }
 
     void settingsSwitchesAndSlidersAreSavedAsShown()

@@ -225,17 +225,6 @@ private slots:
         QCOMPARE(window.depth(), 1);
         QCOMPARE(changed.size(), 5);
     }
-
-    void toggleSwitchFlipsOnClick()
-    {
-        ToggleSwitch toggle;
-        toggle.show();
-        QVERIFY(toggle.isCheckable());
-        QTest::mouseClick(&toggle, Qt::LeftButton);
-        QVERIFY(toggle.isChecked());
-        QTest::mouseClick(&toggle, Qt::LeftButton);
-        QVERIFY(!toggle.isChecked());
-    }
 };
 
 }  // namespace kavenda
