@@ -63,7 +63,7 @@ layout)
         nm -D --defined-only "$prefix/lib/kavenda/kavenda_audio.so" | grep -qw "$entry" \
             || fail "the audio module lacks $entry"
     done
-    [[ $(ls "$prefix/share") == $'applications\nicons\nkavenda\nman\nmetainfo' ]] \
+    [[ $(ls "$prefix/share") == $'applications\ndoc\nicons\nkavenda\nman\nmetainfo' ]] \
         || fail "share holds: $(ls "$prefix/share" | xargs)"
     # Every resource the build made, and nothing of CMake's own.
     resources=$(files_under "$KAVENDA_RESOURCE_DIR" | grep -vE '^CMakeFiles/|\.cmake$|^Makefile$' || true)
