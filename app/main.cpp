@@ -290,6 +290,11 @@ int main(int argc, char** argv)
             catchUp();
             horizon.keepAhead(todayKey());
         });
+    // The minutes left in the tooltip change with the re-planning's minute, on the same wake-up.
+    QObject::connect(&replanning, &Replanning::minuteBegan, &delegate, [&] {
+        if (status)
+            status->refresh();
+    });
     horizon.keepAhead(todayKey());
 
     return app->exec();
