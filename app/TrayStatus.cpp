@@ -16,8 +16,6 @@ TrayStatus::TrayStatus(QSystemTrayIcon* tray, ReminderSound& sound, const Notifi
                        const Clock& clock, const PersianCalendar& calendar, QObject* parent)
     : QObject(parent), tray_(tray), sound_(sound), notifications_(notifications), clock_(clock), calendar_(calendar)
 {
-    timer_.setSingleShot(true);
-    connect(&timer_, &QTimer::timeout, this, &TrayStatus::refresh);
     if (QMenu* menu = tray_ ? tray_->contextMenu() : nullptr) {
         stop_ = new QAction(QStringLiteral("توقف اذان"), menu);
         stop_->setVisible(false);
@@ -40,9 +38,6 @@ void TrayStatus::refresh()
     tray_->setToolTip(next.empty() ? QGuiApplication::applicationDisplayName() : QString::fromStdString(next));
     if (stop_)
         stop_->setVisible(sound_.isPlaying());
-    // Again as the next minute begins, when the minutes left change.
-    const auto intoMinute = now.time_since_epoch() % std::chrono::minutes(1);
-    timer_.start(std::chrono::minutes(1) - intoMinute);
 }
 
 }  // namespace kavenda

@@ -2,7 +2,6 @@
 
 #include <QObject>
 #include <QPointer>
-#include <QTimer>
 
 class QAction;
 class QSystemTrayIcon;
@@ -14,8 +13,8 @@ class NotificationService;
 class PersianCalendar;
 class ReminderSound;
 
-// What the tray icon tells: the next reminder and the time left in its tooltip, kept to the
-// minute, and "توقف اذان" in its menu while a call sounds.
+// What the tray icon tells: the next reminder and the time left in its tooltip, refreshed by
+// the owner as each minute begins, and "توقف اذان" in its menu while a call sounds.
 class TrayStatus : public QObject {
     Q_OBJECT
 
@@ -32,7 +31,6 @@ private:
     const Clock& clock_;
     const PersianCalendar& calendar_;
     QAction* stop_ = nullptr;
-    QTimer timer_;
 };
 
 }  // namespace kavenda

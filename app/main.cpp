@@ -61,8 +61,9 @@ bool needsWindow(int argc, char** argv)
 {
     for (int i = 1; i < argc; ++i) {
         const QByteArray argument(argv[i]);
-        if (argument == "--reminders" || argument == "--month" || argument == "--help" || argument == "-h"
-            || argument == "--help-all" || argument == "--version" || argument == "-v" || argument == "--quit")
+        if (argument == "--reminders" || argument == "--month" || argument == "--year" || argument == "--help"
+            || argument == "-h" || argument == "--help-all" || argument == "--version" || argument == "-v"
+            || argument == "--quit")
             return false;
     }
     return true;
@@ -120,14 +121,20 @@ int main(int argc, char** argv)
         QStringLiteral("month"),
         QStringLiteral(
             "Print a Persian month with its holidays and occasions (this month unless YYYY-MM is given) and exit."));
+    const QCommandLineOption year(
+        QStringLiteral("year"),
+        QStringLiteral(
+            "Print a Persian year as twelve months with their holidays (this year unless YYYY is given) and exit."));
     const QCommandLineOption background(QStringLiteral("background"),
                                         QStringLiteral("Start in the system tray without showing the window."));
     const QCommandLineOption quit(QStringLiteral("quit"),
                                   QStringLiteral("End the program running on the data folder."));
-    parser.addOptions({now, tall, dataDir, screenshot, reminders, month, background, quit});
-    parser.addPositionalArgument(QStringLiteral("YYYY-MM"),
-                                 QStringLiteral("With --month: the Persian year and month, such as 1392-01."),
-                                 QStringLiteral("[YYYY-MM]"));
+    parser.addOptions({now, tall, dataDir, screenshot, reminders, month, year, background, quit});
+    parser.addPositionalArgument(
+        QStringLiteral("YYYY-MM"),
+        QStringLiteral(
+            "With --month: the Persian year and month, such as 1392-01; with --year: the year, such as 1405."),
+        QStringLiteral("[YYYY-MM|YYYY]"));
     parser.process(*app);
 
     SystemClock systemClock;
@@ -191,6 +198,8 @@ int main(int argc, char** argv)
     }
     if (parser.isSet(month))
         return printMonth(parser.positionalArguments().value(0).toStdString(), *clock, calendar, horizon);
+    if (parser.isSet(year))
+        return printYear(parser.positionalArguments().value(0).toStdString(), *clock, calendar, horizon);
 
     // One program per data folder; a screenshot runs beside it.
     SingleInstance instance(paths.documentsFolder());
@@ -292,6 +301,11 @@ int main(int argc, char** argv)
             catchUp();
             horizon.keepAhead(todayKey());
         });
+    // The minutes left in the tooltip change with the re-planning's minute, on the same wake-up.
+    QObject::connect(&replanning, &Replanning::minuteBegan, &delegate, [&] {
+        if (status)
+            status->refresh();
+    });
     horizon.keepAhead(todayKey());
 
     return app->exec();

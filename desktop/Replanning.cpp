@@ -14,7 +14,6 @@ namespace kavenda {
 
 namespace {
 
-constexpr std::chrono::milliseconds longestWait{60'000};
 const QString zoneFile = QStringLiteral("/etc/localtime");
 
 const char* nameOf(ReplanWatch::Change change)
@@ -40,6 +39,8 @@ Replanning::Replanning(const Clock& clock, IcuPersianCalendar& calendar, Log& lo
       replan_(std::move(replan)), watch_(calendar)
 {
     timer_.setSingleShot(true);
+    // A coarse timer may fire a little before the minute it waits for.
+    timer_.setTimerType(Qt::PreciseTimer);
     connect(&timer_, &QTimer::timeout, this, &Replanning::look);
 
     // The zone file is replaced, not written: watch the folder too, and the file anew.
@@ -68,7 +69,9 @@ void Replanning::look()
         log_.line(std::string("reminders rebuilt: ") + nameOf(change));
         replan_(change);
     }
-    timer_.start(watch_.nextLookIn(now, longestWait));
+    emit minuteBegan();
+    const auto intoMinute = now.time_since_epoch() % std::chrono::minutes(1);
+    timer_.start(watch_.nextLookIn(now, std::chrono::minutes(1) - intoMinute));
 }
 
 void Replanning::prepareForSleep(bool sleeping)

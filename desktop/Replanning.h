@@ -15,8 +15,9 @@ class IcuPersianCalendar;
 class Log;
 
 // Tells a program that runs for weeks when to rebuild its reminders. It looks at the clocks at
-// every local midnight and at least once a minute, and at once when the desktop says something
-// changed: a resume from suspend (logind), a new time zone (timedated, the zone file).
+// the start of every minute, and at once when the desktop says something changed: a resume from
+// suspend (logind), a new time zone (timedated, the zone file). Its minute is the idle program's
+// only timer: what shows the time left listens to minuteBegan.
 class Replanning : public QObject {
     Q_OBJECT
 
@@ -26,6 +27,9 @@ public:
                std::function<void(ReplanWatch::Change)> replan, QObject* parent = nullptr);
 
     void look();
+
+signals:
+    void minuteBegan();
 
 private slots:
     void prepareForSleep(bool sleeping);

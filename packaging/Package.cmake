@@ -28,6 +28,10 @@ set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
   "qt6-qpa-plugins, gstreamer1.0-plugins-base, gstreamer1.0-plugins-good, fonts-farsiweb")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-wayland")
+# Gathers the Islamic programs, this one among them, in their own menu.
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "islamic-menus")
+# The sounds and the database shrink a third more with xz than with gzip.
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 # The autostart entry lives in /etc: an administrator's change to it survives an upgrade.
 file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/conffiles "/etc/xdg/autostart/${KAVENDA_APP_ID}.desktop\n")
 set(CPACK_DEBIAN_PACKAGE_CONTROL_EXTRA ${CMAKE_CURRENT_BINARY_DIR}/conffiles)

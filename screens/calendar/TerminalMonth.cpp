@@ -44,13 +44,43 @@ std::string persianDayCell(int day)
     return (day < 10 ? " " : "") + persianNumber(day);
 }
 
-std::string withoutTrailingBlanks(std::string line)
+bool isHoliday(const RowSet& rows, int day)
+{
+    return MyDB::getValue(rows, static_cast<std::size_t>(day - 1), "IsHoliday").value_or("") == "1";
+}
+
+// Seven cells of three columns a week, the last week padded to the full width too.
+std::vector<std::string> weekLines(const RowSet& rows, const MonthShape& shape, bool colour)
+{
+    std::vector<std::string> weeks;
+    std::string week(static_cast<std::size_t>(3 * shape.firstColumn), ' ');
+    for (int day = 1; day <= shape.length; ++day) {
+        const int column = (shape.firstColumn + day - 1) % 7;
+        const bool holiday = column == friday || isHoliday(rows, day);
+        week += std::string(leftToRightMark) + ' ' + painted(persianDayCell(day), colour && holiday);
+        if (column == friday || day == shape.length) {
+            weeks.push_back(week + std::string(static_cast<std::size_t>(3 * (friday - column)), ' '));
+            week.clear();
+        }
+    }
+    return weeks;
+}
+
+}  // namespace
+
+std::string TerminalMonth::weekdayLine()
+{
+    std::string line;
+    for (std::string_view initial : weekdayInitials)
+        line += std::string(leftToRightMark) + "  " + std::string(initial);
+    return line;
+}
+
+std::string TerminalMonth::withoutTrailingBlanks(std::string line)
 {
     line.erase(line.find_last_not_of(' ') + 1);
     return line;
 }
-
-}  // namespace
 
 TerminalMonth::TerminalMonth(MyDB& db, const PersianCalendar& calendar) : db_(db), calendar_(calendar)
 {
@@ -82,26 +112,15 @@ std::optional<std::string> TerminalMonth::print(YearMonth month, bool colour) co
     };
 
     std::string out = DateTimePersian::getMonthName(month.month - 1) + ' ' + persianNumber(month.year) + '\n';
-    for (std::string_view initial : weekdayInitials)
-        out += std::string(leftToRightMark) + "  " + std::string(initial);
-    out += '\n';
-    std::string week(static_cast<std::size_t>(3 * shape.firstColumn), ' ');
-    for (int day = 1; day <= shape.length; ++day) {
-        const int column = (shape.firstColumn + day - 1) % 7;
-        const bool holiday = column == friday || value(day, "IsHoliday") == "1";
-        week += std::string(leftToRightMark) + ' ' + painted(persianDayCell(day), colour && holiday);
-        if (column == friday || day == shape.length) {
-            out += withoutTrailingBlanks(week) + '\n';
-            week.clear();
-        }
-    }
-
+    out += weekdayLine() + '\n';
+    for (const std::string& week : weekLines(rows, shape, colour))
+        out += withoutTrailingBlanks(week) + '\n';
     out += '\n';
     for (int day = 1; day <= shape.length; ++day) {
         const std::string description = value(day, "Description");
         if (description.empty())
             continue;
-        const bool holiday = value(day, "IsHoliday") == "1";
+        const bool holiday = isHoliday(rows, day);
         std::string line = painted(persianNumber(day) + (holiday ? "*" : ""), colour && holiday) + ' ';
         const std::vector<std::string> occasions = MonthGrid::occasions(description);
         for (std::size_t i = 0; i < occasions.size(); ++i)
@@ -109,6 +128,14 @@ std::optional<std::string> TerminalMonth::print(YearMonth month, bool colour) co
         out += line + '\n';
     }
     return out;
+}
+
+std::optional<std::vector<std::string>> TerminalMonth::weeks(YearMonth month, bool colour) const
+{
+    const RowSet rows = db_.Execute(MonthGrid::monthStatement(month.year, month.month - 1));
+    if (rows.empty())
+        return std::nullopt;
+    return weekLines(rows, MonthShape::of(calendar_, month.year, month.month - 1), colour);
 }
 
 }  // namespace kavenda

@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace kavenda {
 
@@ -27,6 +28,11 @@ public:
     // The printout; colour marks holidays and Fridays for a terminal. None when the data
     // holds no day of that month.
     std::optional<std::string> print(YearMonth month, bool colour) const;
+    // The weekday initials from Saturday, each over its three-column day cell.
+    static std::string weekdayLine();
+    static std::string withoutTrailingBlanks(std::string line);
+    // The month's weeks alone, each 21 columns wide, for a year printed as months side by side.
+    std::optional<std::vector<std::string>> weeks(YearMonth month, bool colour) const;
 
 private:
     MyDB& db_;

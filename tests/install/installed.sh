@@ -45,6 +45,8 @@ entries)
     appstreamcli validate --no-net --strict "$prefix/share/metainfo/$id.metainfo.xml" \
         || fail "appstreamcli rejects the metadata"
     grep -qx 'Exec=kavenda' "$prefix/share/applications/$id.desktop" || fail "the menu entry does not run kavenda"
+    grep -q '^Categories=.*;X-Islamic-Software;' "$prefix/share/applications/$id.desktop" \
+        || fail "the menu entry is not in the Islamic programs' menu"
     grep -qx 'Exec=kavenda --background' "$prefix/etc/xdg/autostart/$id.desktop" \
         || fail "the autostart entry does not start kavenda in the background"
     grep -q "<release version=\"$KAVENDA_VERSION\"" "$prefix/share/metainfo/$id.metainfo.xml" \
@@ -61,7 +63,7 @@ layout)
         nm -D --defined-only "$prefix/lib/kavenda/kavenda_audio.so" | grep -qw "$entry" \
             || fail "the audio module lacks $entry"
     done
-    [[ $(ls "$prefix/share") == $'applications\nicons\nkavenda\nman\nmetainfo' ]] \
+    [[ $(ls "$prefix/share") == $'applications\ndoc\nicons\nkavenda\nman\nmetainfo' ]] \
         || fail "share holds: $(ls "$prefix/share" | xargs)"
     # Every resource the build made, and nothing of CMake's own.
     resources=$(files_under "$KAVENDA_RESOURCE_DIR" | grep -vE '^CMakeFiles/|\.cmake$|^Makefile$' || true)
@@ -118,6 +120,10 @@ package)
         [[ $depends =~ (^|, )$package( |,|$) ]] || fail "Depends lacks $package: $depends"
     done
     [[ $(dpkg-deb -f "$deb" Maintainer) == *@* ]] || fail "no maintainer address"
+    [[ $(dpkg-deb -f "$deb" Suggests) =~ (^|, )islamic-menus( |,|$) ]] || fail "does not suggest islamic-menus"
+    ar t "$deb" | grep -qx 'data.tar.xz' || fail "the contents are not compressed with xz: $(ar t "$deb" | xargs)"
+    size=$(stat -c %s "$deb")
+    ((size <= 3 * 1000 * 1000)) || fail "the package is $size bytes, more than 3 MB"
     # The installed tree, with /usr for the prefix and the autostart entry in /etc.
     unpacked=$(mktemp -d)
     trap 'rm -rf "$unpacked"' EXIT
@@ -128,6 +134,11 @@ package)
     [[ $(files_under "$unpacked/etc") == "$(files_under "$prefix/etc")" ]] || fail "the package's /etc differs"
     dpkg-deb --ctrl-tarfile "$deb" | tar -xO ./conffiles | grep -qx "/etc/xdg/autostart/$id.desktop" \
         || fail "the autostart entry is not a conffile"
+    copyright=$unpacked/usr/share/doc/kavenda/copyright
+    head -1 "$copyright" | grep -qx 'Format: https://www.debian.org/doc/packaging-manuals/copyright-format/1.0/' \
+        || fail "no machine-readable copyright file"
+    grep -qx 'License: GPL-3.0-or-later' "$copyright" || fail "the copyright file names no licence"
+    grep -qF /usr/share/common-licenses/GPL-3 "$copyright" || fail "the copyright file does not point to GPL-3"
     file -b "$unpacked/usr/bin/kavenda" | grep -q ', stripped' || fail "the packaged program is not stripped"
     ;;
 
