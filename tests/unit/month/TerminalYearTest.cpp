@@ -12,12 +12,16 @@
 namespace kavenda {
 namespace {
 
+// The lines as a terminal shows them: the zero-width left-to-right marks left out.
 std::vector<std::string> lines(const std::string& text)
 {
     std::vector<std::string> found;
     std::istringstream in(text);
-    for (std::string line; std::getline(in, line);)
+    for (std::string line; std::getline(in, line);) {
+        for (std::size_t mark; (mark = line.find("\u200e")) != std::string::npos;)
+            line.erase(mark, 3);
         found.push_back(line);
+    }
     return found;
 }
 
