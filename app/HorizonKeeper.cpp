@@ -40,16 +40,6 @@ void HorizonKeeper::report(const Outcome& outcome)
         log_.line(DataHorizon::report(outcome.added));
 }
 
-void HorizonKeeper::keepAheadNow(int today)
-{
-    report(attempt([&] { return DataHorizon(database_).keepAhead(today); }));
-}
-
-void HorizonKeeper::holdThroughNow(int year)
-{
-    report(attempt([&] { return DataHorizon(database_).holdThrough(year); }));
-}
-
 void HorizonKeeper::keepAhead(int today)
 {
     if (worker_)

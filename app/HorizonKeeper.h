@@ -29,10 +29,6 @@ public:
     void keepAhead(int today);
     bool busy() const { return worker_ != nullptr; }
 
-    // For the terminal commands, which print what they find: the same work, on this thread.
-    void keepAheadNow(int today);
-    void holdThroughNow(int year);
-
 signals:
     void yearsAdded();
     // Every run ends with this, after yearsAdded when there were any.

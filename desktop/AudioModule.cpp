@@ -21,7 +21,6 @@ const AudioModule::Entries& AudioModule::entries()
         const QDir programFolder(QCoreApplication::applicationDirPath());
         const QStringList candidates = {
             programFolder.filePath(QStringLiteral("kavenda_audio")),
-            programFolder.filePath(QStringLiteral(KAVENDA_INSTALLED_MODULES "/kavenda_audio")),
             QStringLiteral(KAVENDA_BUILT_AUDIO_MODULE),
         };
         QStringList problems;

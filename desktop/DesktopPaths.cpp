@@ -1,20 +1,9 @@
 #include "desktop/DesktopPaths.h"
 
-#include <QCoreApplication>
-
 #include <cstdlib>
 #include <system_error>
 
 namespace kavenda {
-
-namespace {
-
-std::filesystem::path fromQt(const QString& path)
-{
-    return std::filesystem::path(path.toStdString());
-}
-
-}  // namespace
 
 std::filesystem::path DesktopPaths::findResources(const std::filesystem::path& programFolder,
                                                   const std::filesystem::path& installedRelative)
@@ -39,9 +28,15 @@ std::filesystem::path DesktopPaths::userDataFolder()
     return {};
 }
 
-DesktopPaths::DesktopPaths(std::optional<std::filesystem::path> dataDir)
-    : documents_(dataDir ? *dataDir : userDataFolder()),
-      resources_(findResources(fromQt(QCoreApplication::applicationDirPath()), KAVENDA_INSTALLED_RESOURCES))
+std::filesystem::path DesktopPaths::programFolder()
+{
+    std::error_code error;
+    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path();
+}
+
+DesktopPaths::DesktopPaths(std::optional<std::filesystem::path> dataDir,
+                           const std::filesystem::path& installedResources)
+    : documents_(dataDir ? *dataDir : userDataFolder()), resources_(findResources(programFolder(), installedResources))
 {
 }
 

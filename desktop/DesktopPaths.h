@@ -11,7 +11,8 @@ namespace kavenda {
 // in <prefix>/share/kavenda, else in the build tree (<build>/app/kavenda and <build>/resources).
 class DesktopPaths final : public Paths {
 public:
-    explicit DesktopPaths(std::optional<std::filesystem::path> dataDir = std::nullopt);
+    // installedResources: where an installed program finds its resources, from its own folder.
+    DesktopPaths(std::optional<std::filesystem::path> dataDir, const std::filesystem::path& installedResources);
 
     // The resource folder of a program in programFolder, whose installed resources lie at installedRelative
     // from it. The installed place comes first, so that no folder that happens to be called "resources"
@@ -20,6 +21,8 @@ public:
     static std::filesystem::path findResources(const std::filesystem::path& programFolder,
                                                const std::filesystem::path& installedRelative);
 
+    // The folder of the running executable.
+    static std::filesystem::path programFolder();
     // $XDG_DATA_HOME/kavenda, else ~/.local/share/kavenda; empty without an absolute HOME.
     static std::filesystem::path userDataFolder();
 

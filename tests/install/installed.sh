@@ -56,8 +56,9 @@ entries)
 layout)
     [[ $(ls "$prefix") == $'bin\netc\nlib\nshare' ]] || fail "top folders: $(ls "$prefix" | xargs)"
     [[ $(ls "$prefix/bin") == kavenda ]] || fail "bin holds: $(ls "$prefix/bin" | xargs)"
-    # The audio module the program loads on its first sound, with the entry points it resolves.
-    [[ $(files_under "$prefix/lib") == kavenda/kavenda_audio.so ]] \
+    # The window program and the audio module it loads on its first sound, with the entry points
+    # it resolves.
+    [[ $(files_under "$prefix/lib" | xargs) == "kavenda/kavenda-window kavenda/kavenda_audio.so" ]] \
         || fail "lib holds: $(files_under "$prefix/lib" | xargs)"
     for entry in kavenda_audio_player kavenda_audio_playable; do
         nm -D --defined-only "$prefix/lib/kavenda/kavenda_audio.so" | grep -qw "$entry" \
@@ -88,6 +89,14 @@ program)
     program=$prefix/bin/kavenda
     "$program" --help | grep -q -- '--data-dir' || fail "kavenda --help does not list the options"
     [[ $("$program" --version) == "kavenda $KAVENDA_VERSION" ]] || fail "kavenda --version says $("$program" --version)"
+    # Without a display the window says so in one line, and the terminal commands still serve.
+    out=$(env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM HOME="$home" "$program" 2>&1) && fail "a window opened without a display"
+    [[ $out == "kavenda: no display to open the window on (set DISPLAY or WAYLAND_DISPLAY)" ]] || fail "without a display: $out"
+    env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM HOME="$home" "$program" --month 1405-09 | grep -q "آذر" \
+        || fail "--month wants a display"
+    [[ ! -e $home/.local ]] || fail "--month before the first start wrote into the home: $(find "$home/.local")"
+    # The terminal commands load no window library.
+    ! ldd "$program" | grep -q libQt || fail "kavenda links Qt: $(ldd "$program" | grep libQt | xargs)"
     # A first start, with the data folder in its default place under a fresh home.
     env -u XDG_DATA_HOME HOME="$home" QT_QPA_PLATFORM=offscreen \
         "$program" --now 2013-07-01T12:00 --screenshot "$home/first.png" || fail "the first start failed"

@@ -5,7 +5,9 @@
 
 namespace kavenda::sounds {
 
-constexpr int sampleRate = 22050;
+// The highest partial of any recording (a bell's, near 5.9 kHz) lies below half of this rate, so
+// nothing is lost, and the package is a quarter smaller than at 22,050.
+constexpr int sampleRate = 16000;
 
 // Writes mono samples in -1..1 as a 16-bit PCM WAV file; false when the file cannot be written.
 bool writeWav(const std::filesystem::path& file, const std::vector<double>& samples);

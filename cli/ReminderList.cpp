@@ -1,4 +1,4 @@
-#include "app/ReminderList.h"
+#include "cli/ReminderList.h"
 
 #include "platform/PersianCalendar.h"
 

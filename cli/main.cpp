@@ -1,0 +1,116 @@
+// The kavenda command. The terminal commands are served here, with the core, ICU and SQLite
+// alone; anything else becomes the window program, which loads Qt.
+#include "cli/CommandLine.h"
+#include "cli/MonthCommand.h"
+#include "cli/ReminderList.h"
+#include "cli/StartClock.h"
+#include "cli/TopUp.h"
+#include "calendar/DateTimePersian.h"
+#include "data/DataHorizon.h"
+#include "data/IntValue.h"
+#include "data/MyDB.h"
+#include "data/Statements.h"
+#include "data/WorkingCopyStart.h"
+#include "desktop/DesktopPaths.h"
+#include "desktop/DeviceRandom.h"
+#include "desktop/IcuPersianCalendar.h"
+#include "desktop/InstanceSocket.h"
+#include "desktop/JournalLog.h"
+#include "desktop/StderrLog.h"
+#include "reminders/MyNotification.h"
+#include "reminders/ReminderQueue.h"
+
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <memory>
+#include <string>
+#include <unistd.h>
+#include <variant>
+
+using namespace kavenda;
+
+namespace {
+
+// The window program: installed in the package's own library folder, in the build tree beside this one.
+std::filesystem::path windowProgram()
+{
+    const std::filesystem::path here = DesktopPaths::programFolder();
+    const std::filesystem::path installed = (here / KAVENDA_INSTALLED_WINDOW).lexically_normal();
+    std::error_code error;
+    if (std::filesystem::exists(installed, error))
+        return installed;
+    return here / "kavenda-window";
+}
+
+int openWindow(char** argv)
+{
+    const std::filesystem::path program = windowProgram();
+    // argv[0] stays the command's: the window's class and the process list name it kavenda.
+    ::execv(program.c_str(), argv);
+    std::fprintf(stderr, "kavenda: cannot start the window program %s: %s\n", program.c_str(), std::strerror(errno));
+    return 1;
+}
+
+int printReminders(const Clock& clock, const PersianCalendar& calendar, const Paths& paths, Log& log)
+{
+    if (const auto problem = startWorkingCopy(paths, log)) {
+        std::fprintf(stderr, "%s\n", problem->logLine.c_str());
+        return 1;
+    }
+    ReminderQueue pending;
+    DeviceRandom random;
+    MyNotification::setUp(clock, calendar, pending, random, log);
+    const int today = std::stoi(DateTimePersian::init(clock, calendar).getPersianDate());
+    topUp(log, [&] { return DataHorizon(MyDB::initialize().dbPath()).keepAhead(today); });
+    MyNotification::initialize().update();
+    std::fputs(reminderList(pending.pending(), calendar).c_str(), stdout);
+    // An empty list would otherwise read as a day without calls.
+    if (intValue(MyDB::initialize().ExecuteScaler(sql::chosenCityCountUnnamed).value_or("0")) == 0)
+        std::fputs("kavenda: no city is chosen, so nothing is announced; choose one in the options\n", stderr);
+    return 0;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    const std::variant<CommandLine, std::string> parsed = CommandLine::parse(argc, argv);
+    if (const std::string* problem = std::get_if<std::string>(&parsed)) {
+        std::fprintf(stderr, "kavenda: %s\n", problem->c_str());
+        return 1;
+    }
+    const CommandLine& line = std::get<CommandLine>(parsed);
+    if (line.help) {
+        std::fputs(CommandLine::helpText().c_str(), stdout);
+        return 0;
+    }
+    if (line.version) {
+        std::puts("kavenda " KAVENDA_VERSION);
+        return 0;
+    }
+    const std::unique_ptr<Clock> clock = StartClock::make(line.now);
+    if (!clock) {
+        std::fprintf(stderr, "kavenda: --now wants a local date and time such as 2013-07-01T12:00\n");
+        return 2;
+    }
+    if (!line.servedByTerminal())
+        return openWindow(argv);
+
+    const DesktopPaths paths(line.dataDir, KAVENDA_INSTALLED_RESOURCES);
+    if (line.quit) {
+        if (sendToRunningInstance(paths.documentsFolder(), "quit"))
+            return 0;
+        std::fprintf(stderr, "kavenda: no Kavenda runs on %s\n", paths.documentsFolder().c_str());
+        return 1;
+    }
+    IcuPersianCalendar calendar;
+    // What a command prints is what the person asked for; the log goes beside it only when asked.
+    std::unique_ptr<Log> log = line.verbose ? std::unique_ptr<Log>(std::make_unique<StderrLog>())
+                                            : std::unique_ptr<Log>(std::make_unique<JournalLog>());
+    if (line.reminders)
+        return printReminders(*clock, calendar, paths, *log);
+    if (line.month)
+        return printMonth(line.positional, *clock, calendar, paths, *log);
+    return printYear(line.positional, *clock, calendar, paths, *log);
+}

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "data/DatabaseCheck.h"
+
+#include <optional>
+
+namespace kavenda {
+
+class Log;
+class Paths;
+
+// What every start does before it reads the data: checks the shipped file, makes the working
+// copy from it in the data folder when there is none, and checks that copy. The shared MyDB is
+// set up on the way. A first start that fails leaves nothing behind. None when all went well.
+std::optional<StartupProblem> startWorkingCopy(const Paths& paths, Log& log);
+
+}  // namespace kavenda

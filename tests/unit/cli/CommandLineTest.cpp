@@ -1,0 +1,82 @@
+#include "cli/CommandLine.h"
+#include "cli/StartClock.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <vector>
+
+namespace kavenda {
+namespace {
+
+std::variant<CommandLine, std::string> parse(std::vector<const char*> arguments)
+{
+    arguments.insert(arguments.begin(), "kavenda");
+    return CommandLine::parse(static_cast<int>(arguments.size()), arguments.data());
+}
+
+TEST(CommandLineTest, ReadsValuesEitherWayAndKeepsQtsOptionsForTheWindow)
+{
+    const auto parsed = parse({"--data-dir", "/d", "--now=2013-07-01T12:00", "-platform", "offscreen", "--month",
+                               "1405-09", "--style=Fusion", "-reverse", "--verbose"});
+    ASSERT_TRUE(std::holds_alternative<CommandLine>(parsed)) << std::get<std::string>(parsed);
+    const CommandLine& line = std::get<CommandLine>(parsed);
+    EXPECT_EQ(line.dataDir, "/d");
+    EXPECT_EQ(line.now, "2013-07-01T12:00");
+    EXPECT_TRUE(line.month && line.verbose && line.servedByTerminal());
+    EXPECT_EQ(line.positional, "1405-09");
+    EXPECT_EQ(line.qtArguments, (std::vector<std::string>{"-platform", "offscreen", "--style=Fusion", "-reverse"}));
+
+    const CommandLine window = std::get<CommandLine>(parse({"--background", "--tall", "--screenshot", "a.png"}));
+    EXPECT_TRUE(window.background && window.tall && !window.servedByTerminal());
+    EXPECT_EQ(window.screenshot, "a.png");
+}
+
+TEST(CommandLineTest, RefusesWhatItDoesNotKnowWithTheReason)
+{
+    const struct {
+        std::vector<const char*> arguments;
+        std::string problem;
+    } cases[] = {
+        {{"--bogus"}, "Unknown option 'bogus'."},
+        {{"-help"}, "Unknown option 'help'."},
+        {{"--h"}, "Unknown option 'h'."},
+        {{"--data-dir"}, "Missing value after '--data-dir'."},
+        {{"--tall=yes"}, "Unexpected value after '--tall=yes'."},
+        {{"--month", "1405-09", "1405-10"}, "Unexpected argument '1405-10'."},
+    };
+    for (const auto& c : cases) {
+        const auto parsed = parse(c.arguments);
+        ASSERT_TRUE(std::holds_alternative<std::string>(parsed)) << c.problem;
+        EXPECT_EQ(std::get<std::string>(parsed), c.problem);
+    }
+}
+
+TEST(CommandLineTest, HelpNamesEveryOptionItReads)
+{
+    const std::string help = CommandLine::helpText();
+    for (const char* option : {"-h, --help", "-v, --version", "--now <time>", "--tall", "--data-dir <folder>",
+                               "--screenshot <file>", "--reminders", "--month", "--year", "--background", "--quit",
+                               "--verbose", "[YYYY-MM|YYYY]"})
+        EXPECT_NE(help.find(option), std::string::npos) << option;
+}
+
+TEST(StartClockTest, ReadsALocalMomentAndRefusesWhatIsNone)
+{
+    setenv("TZ", "Asia/Tehran", 1);
+    using namespace std::chrono;
+    // Tehran kept summer time (+04:30) until 2022.
+    const Instant noon = sys_days{2013y / 7 / 1} + 7h + 30min;
+    EXPECT_EQ(StartClock::parseLocalMoment("2013-07-01T12:00"), noon);
+    EXPECT_EQ(StartClock::parseLocalMoment("2013-07-01T12:00:30"), noon + 30s);
+    EXPECT_EQ(StartClock::parseLocalMoment("2013-07-01"), noon - 12h);
+    for (const char* none : {"2013-02-30T12:00", "2013-07-01T25:00", "2013-07-01T12:60", "2013-07-01T12:00Z",
+                             "2013-07-01 12:00", "tomorrow", ""})
+        EXPECT_FALSE(StartClock::parseLocalMoment(none)) << none;
+    EXPECT_FALSE(StartClock::make("2013-13-01"));
+    EXPECT_TRUE(StartClock::make(std::nullopt));
+}
+
+}  // namespace
+}  // namespace kavenda
