@@ -46,6 +46,10 @@ inline constexpr std::string_view reminderTimes =
 inline constexpr std::string_view comingOccasions =
     "SELECT Date, Description FROM tEvents WHERE Date >= '%@' AND Description IS NOT NULL ORDER BY Date LIMIT 5";
 inline constexpr std::string_view monthEvents = "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '%@__'";
+// The same rows by a range of keys, which the primary key finds without reading the whole table:
+// the terminal prints twelve months at a time.
+inline constexpr std::string_view monthEventsByKey =
+    "SELECT Description, IsHoliday FROM tEvents WHERE Date BETWEEN %d AND %d ORDER BY Date";
 // The key prefix of a month: (year mod 1300) and the two-digit month, "9201" for Farvardin 1392.
 inline constexpr std::string_view monthPattern = "%d%02i";
 // The first and last days that have occasion rows: the months the calendar can show.

@@ -2,6 +2,7 @@
 
 #include "calendar/DateTimePersian.h"
 #include "data/MyDB.h"
+#include "data/Statements.h"
 #include "screens/calendar/MonthGrid.h"
 #include "screens/calendar/MonthShape.h"
 #include "text/Format.h"
@@ -82,6 +83,14 @@ std::string TerminalMonth::withoutTrailingBlanks(std::string line)
     return line;
 }
 
+RowSet TerminalMonth::rows(YearMonth first, YearMonth last) const
+{
+    const auto key = [](YearMonth month, int day) {
+        return std::stoi(format(sql::monthPattern, {month.year % 1300, month.month})) * 100 + day;
+    };
+    return db_.Execute(format(sql::monthEventsByKey, {key(first, 1), key(last, 31)}));
+}
+
 TerminalMonth::TerminalMonth(MyDB& db, const PersianCalendar& calendar) : db_(db), calendar_(calendar)
 {
 }
@@ -103,7 +112,7 @@ std::optional<TerminalMonth::YearMonth> TerminalMonth::parse(std::string_view te
 
 std::optional<std::string> TerminalMonth::print(YearMonth month, bool colour) const
 {
-    const RowSet rows = db_.Execute(MonthGrid::monthStatement(month.year, month.month - 1));
+    const RowSet rows = this->rows(month, month);
     if (rows.empty())
         return std::nullopt;
     const MonthShape shape = MonthShape::of(calendar_, month.year, month.month - 1);
@@ -130,12 +139,20 @@ std::optional<std::string> TerminalMonth::print(YearMonth month, bool colour) co
     return out;
 }
 
-std::optional<std::vector<std::string>> TerminalMonth::weeks(YearMonth month, bool colour) const
+std::optional<std::array<std::vector<std::string>, 12>> TerminalMonth::yearWeeks(int year, bool colour) const
 {
-    const RowSet rows = db_.Execute(MonthGrid::monthStatement(month.year, month.month - 1));
-    if (rows.empty())
-        return std::nullopt;
-    return weekLines(rows, MonthShape::of(calendar_, month.year, month.month - 1), colour);
+    // One query for the year: each one opens the file anew.
+    const RowSet days = rows({year, 1}, {year, 12});
+    std::array<std::vector<std::string>, 12> weeks;
+    auto next = days.begin();
+    for (int month = 1; month <= 12; ++month) {
+        const MonthShape shape = MonthShape::of(calendar_, year, month - 1);
+        if (days.end() - next < shape.length)
+            return std::nullopt;
+        weeks[static_cast<std::size_t>(month - 1)] = weekLines(RowSet(next, next + shape.length), shape, colour);
+        next += shape.length;
+    }
+    return weeks;
 }
 
 }  // namespace kavenda

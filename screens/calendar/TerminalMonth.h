@@ -1,5 +1,8 @@
 #pragma once
 
+#include "data/RowSet.h"
+
+#include <array>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,10 +34,14 @@ public:
     // The weekday initials from Saturday, each over its three-column day cell.
     static std::string weekdayLine();
     static std::string withoutTrailingBlanks(std::string line);
-    // The month's weeks alone, each 21 columns wide, for a year printed as months side by side.
-    std::optional<std::vector<std::string>> weeks(YearMonth month, bool colour) const;
+    // The weeks of each month alone, each 21 columns wide, for a year printed as months side by
+    // side; none when the data does not hold the whole year.
+    std::optional<std::array<std::vector<std::string>, 12>> yearWeeks(int year, bool colour) const;
 
 private:
+    // The days of the months from first to last, in order.
+    RowSet rows(YearMonth first, YearMonth last) const;
+
     MyDB& db_;
     const PersianCalendar& calendar_;
 };

@@ -40,18 +40,19 @@ TerminalYear::TerminalYear(MyDB& db, const PersianCalendar& calendar) : db_(db),
 
 std::optional<std::string> TerminalYear::print(int year, bool colour) const
 {
-    const TerminalMonth terminal(db_, calendar_);
+    const std::optional<std::array<std::vector<std::string>, 12>> weeks =
+        TerminalMonth(db_, calendar_).yearWeeks(year, colour);
+    if (!weeks)
+        return std::nullopt;
     std::string out = TerminalMonth::withoutTrailingBlanks(centred(Utility::ConvertToPersian(format("%d", {year})), yearWidth)) + '\n';
     for (int first = 1; first <= 12; first += monthsAcross) {
         std::array<std::vector<std::string>, monthsAcross> blocks;
         std::size_t height = 0;
         for (int i = 0; i < monthsAcross; ++i) {
-            const std::optional<std::vector<std::string>> weeks = terminal.weeks({year, first + i}, colour);
-            if (!weeks)
-                return std::nullopt;
             blocks[i] = {centred(DateTimePersian::getMonthName(first + i - 1), monthWidth),
                          TerminalMonth::weekdayLine()};
-            blocks[i].insert(blocks[i].end(), weeks->begin(), weeks->end());
+            const std::vector<std::string>& month = (*weeks)[static_cast<std::size_t>(first + i - 1)];
+            blocks[i].insert(blocks[i].end(), month.begin(), month.end());
             height = std::max(height, blocks[i].size());
         }
         out += '\n';
