@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "data/MyDB.h"
+#include "desktop/TrayWatch.h"
 #include "platform/Alerts.h"
 #include "platform/Log.h"
 #include "platform/Screen.h"
@@ -25,8 +26,6 @@ namespace {
 // The phone's status bar takes this much of the screen's height.
 constexpr int statusBarHeight = 20;
 constexpr int screenWidth = 320;
-// Qt tells of no tray that comes later: a panel started after the program is looked for.
-constexpr int trayWatchMilliseconds = 3000;
 
 }  // namespace
 
@@ -34,14 +33,6 @@ AppDelegate::AppDelegate(const AppServices& services, DesktopNotify desktopNotif
     : QObject(parent), services_(services), desktopNotify_(std::move(desktopNotify))
 {
     connect(qApp, &QCoreApplication::aboutToQuit, this, &AppDelegate::applicationWillTerminate);
-    trayWatch_.setInterval(trayWatchMilliseconds);
-    connect(&trayWatch_, &QTimer::timeout, this, [this] {
-        if (!QSystemTrayIcon::isSystemTrayAvailable())
-            return;
-        trayWatch_.stop();
-        makeTray();
-        emit trayAppeared();
-    });
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -72,10 +63,15 @@ bool AppDelegate::didFinishLaunchingWithOptions()
     connect(new QShortcut(QKeySequence::Quit, window_.get()), &QShortcut::activated, this, &AppDelegate::quit);
     // The program ends by quit() alone (see there).
     QApplication::setQuitOnLastWindowClosed(false);
-    if (QSystemTrayIcon::isSystemTrayAvailable())
+    if (QSystemTrayIcon::isSystemTrayAvailable()) {
         makeTray();
-    else
-        trayWatch_.start();
+    } else {
+        // A panel started after the program.
+        connect(new TrayWatch(this), &TrayWatch::trayAppeared, this, [this] {
+            makeTray();
+            emit trayAppeared();
+        });
+    }
     // Without a tray the reminders still come as desktop notifications; a second start from the
     // menu shows the window.
     if (startsInBackground_)

@@ -4,7 +4,6 @@
 #include "platform/NotificationRecord.h"
 
 #include <QObject>
-#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -86,7 +85,6 @@ private:
     bool startsInBackground_ = false;
     bool toldInBackground_ = false;
     std::function<void(std::function<void()>)> tellInBackground_;
-    QTimer trayWatch_;
 };
 
 }  // namespace kavenda
