@@ -67,9 +67,15 @@ bool AppDelegate::didFinishLaunchingWithOptions()
         makeTray();
     } else {
         // A panel started after the program.
-        connect(new TrayWatch(this), &TrayWatch::trayAppeared, this, [this] {
+        auto* watch = new TrayWatch(this);
+        connect(watch, &TrayWatch::trayAppeared, this, [this] {
             makeTray();
             emit trayAppeared();
+        });
+        connect(watch, &TrayWatch::statusNotifierHostAppeared, this, [this] {
+            restartWanted_ = true;
+            if (!window_->isVisible())
+                restartForTray();
         });
     }
     // Without a tray the reminders still come as desktop notifications; a second start from the
@@ -131,6 +137,12 @@ void AppDelegate::makeTray()
     tray_->show();
 }
 
+void AppDelegate::restartForTray()
+{
+    restartsForTray_ = true;
+    quit();
+}
+
 void AppDelegate::quit()
 {
     quitting_ = true;
@@ -147,6 +159,10 @@ bool AppDelegate::closeWithoutTray()
         return false;
     }
     window_->hide();
+    if (restartWanted_) {
+        restartForTray();
+        return true;
+    }
     if (!toldInBackground_ && tellInBackground_) {
         toldInBackground_ = true;
         tellInBackground_([this] { quit(); });

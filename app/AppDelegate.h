@@ -50,6 +50,9 @@ public:
     // The one way out of the program: the tray's exit, Ctrl+Q, the background notice's exit,
     // kavenda --quit, and without a tray the last close while no reminder is on.
     void quit();
+    // The program ended to start again in the background, where Qt shows its icon in the tray
+    // that came up after the start (a status-notifier one, which Qt takes only at start).
+    bool restartsForTray() const { return restartsForTray_; }
 
     QWidget* window() const { return window_.get(); }
     MainViewController* rootViewController() const;
@@ -67,7 +70,7 @@ protected:
 
 private:
     void makeTray();
-    void watchForTray();
+    void restartForTray();
     bool closeWithoutTray();
     void enterBackground();
     void enterForeground();
@@ -84,6 +87,8 @@ private:
     bool quitting_ = false;
     bool startsInBackground_ = false;
     bool toldInBackground_ = false;
+    bool restartWanted_ = false;
+    bool restartsForTray_ = false;
     std::function<void(std::function<void()>)> tellInBackground_;
 };
 

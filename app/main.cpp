@@ -40,7 +40,9 @@
 #include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <cerrno>
 #include <cstring>
+#include <unistd.h>
 #include <memory>
 #include <string>
 #include <variant>
@@ -74,9 +76,8 @@ QIcon iconOnDemand(const QString& file)
     return icon;
 }
 
-}  // namespace
-
-int main(int argc, char** argv)
+// The window program's life; `restart` is set when it ended to start again in the background.
+int runWindow(int argc, char** argv, bool& restart)
 {
     // The kavenda command checked the options before it handed over to this program.
     const std::variant<CommandLine, std::string> parsed = CommandLine::parse(argc, argv);
@@ -229,5 +230,26 @@ int main(int argc, char** argv)
     });
     horizon.keepAhead(todayKey());
 
-    return app.exec();
+    const int exitStatus = app.exec();
+    restart = delegate.restartsForTray();
+    return exitStatus;
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+    bool restart = false;
+    const int status = runWindow(argc, argv, restart);
+    if (!restart)
+        return status;
+    // Everything of the first life is closed and removed by now: its socket, its files, its locks.
+    std::vector<char*> arguments(argv, argv + argc);
+    char background[] = "--background";
+    if (std::none_of(arguments.begin(), arguments.end(), [](const char* a) { return std::strcmp(a, "--background") == 0; }))
+        arguments.push_back(background);
+    arguments.push_back(nullptr);
+    ::execv("/proc/self/exe", arguments.data());
+    std::fprintf(stderr, "kavenda: cannot start again for the tray: %s\n", std::strerror(errno));
+    return 1;
 }
