@@ -59,6 +59,8 @@ while True:
 PY
 pids+=($!)
 within 10 test -e "$TMPDIR/squatting" || fail "nobody did not squat"
+# The background job is the function's shell; the listener itself must end with the test too.
+pids+=($(pgrep -u nobody -f -- "python3 - $TMPDIR"))
 
 # Without $XDG_RUNTIME_DIR: the fallback folder is nobody's, so our start runs on its own.
 call_at() { date -d "2026-11-22 $evening:00 $1 seconds ago" +%Y-%m-%dT%H:%M:%S; }
