@@ -56,7 +56,7 @@ bool AppDelegate::didFinishLaunchingWithOptions()
 
     root_ = new MainViewController({MyDB::initialize(), *services_.clock, *services_.calendar, *services_.screen,
                                     *services_.paths, [] { MyNotification::initialize().update(); }, services_.log,
-                                    services_.audio, services_.alerts, services_.urls},
+                                    services_.audio, services_.isPlayable, services_.alerts, services_.urls},
                                    *presentation_);
     presentation_->setRoot(root_);
     window_->installEventFilter(this);

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "platform/AudioPlayer.h"
+
 namespace kavenda {
 
 class Alerts;
-class AudioPlayer;
 class Clock;
 class Log;
 class NotificationService;
@@ -25,6 +26,7 @@ struct AppServices {
     UrlOpener* urls = nullptr;
     Alerts* alerts = nullptr;
     Screen* screen = nullptr;
+    PlayableCheck isPlayable = {};
 };
 
 }  // namespace kavenda

@@ -114,8 +114,8 @@ int runWindow(int argc, char** argv, bool& restart)
     DesktopUrlOpener urls;
     MessageBoxAlerts alerts;
     FixedScreen screen(line->tall);
-    const AppServices services{clock.get(), &calendar, &paths, &log,    &notifications,
-                               &random,     &audio,    &urls,  &alerts, &screen};
+    const AppServices services{clock.get(), &calendar, &paths,  &log,    &notifications,           &random,
+                               &audio,      &urls,     &alerts, &screen, AudioModule::isPlayable};
     if (const auto problem = startWorkingCopy(paths, log))
         return reportStartupProblem(*problem, log);
     MyNotification::setUp(*clock, calendar, notifications, random, log);
@@ -146,7 +146,7 @@ int runWindow(int argc, char** argv, bool& restart)
     const QString icon = QString::fromStdString((paths.resourceFolder() / "kavenda.png").string());
     QApplication::setWindowIcon(iconOnDemand(icon));
 
-    ReminderSound sound(audio, paths, log, AudioModule::isPlayable);
+    ReminderSound sound(audio, paths, log, services.isPlayable);
     DesktopNotifier notifier(sound, paths);
     AppDelegate delegate(services, [&notifier](const NotificationRecord& record) { notifier.notify(record); });
     delegate.setStartsInBackground(line->background);

@@ -1,8 +1,12 @@
 #pragma once
 
 #include <filesystem>
+#include <functional>
 
 namespace kavenda {
+
+// Whether the media machinery opens a file and finds a sound in it.
+using PlayableCheck = std::function<bool(const std::filesystem::path&)>;
 
 class AudioPlayer {
 public:

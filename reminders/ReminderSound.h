@@ -1,17 +1,16 @@
 #pragma once
 
+#include "platform/AudioPlayer.h"
 #include "platform/NotificationRecord.h"
 
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <map>
 #include <set>
 #include <string>
 
 namespace kavenda {
 
-class AudioPlayer;
 class Log;
 class Paths;
 
@@ -22,9 +21,6 @@ class Paths;
 // that a broken file never silences a call.
 class ReminderSound {
 public:
-    // Whether the media machinery opens a file and finds a sound in it.
-    using PlayableCheck = std::function<bool(const std::filesystem::path&)>;
-
     // Without a check an own recording counts as playable when the player opens it.
     ReminderSound(AudioPlayer& audio, const Paths& paths, Log& log, PlayableCheck isPlayable = {});
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "platform/AudioPlayer.h"
+
 #include <QPointer>
 #include <QWidget>
 
@@ -8,7 +10,6 @@
 namespace kavenda {
 
 class Alerts;
-class AudioPlayer;
 class CustomUITabBarController;
 class Log;
 class MyDB;
@@ -27,6 +28,7 @@ public:
         std::function<void()> rebuildReminders;
         Log* log = nullptr;
         AudioPlayer* audio = nullptr;
+        PlayableCheck isPlayable = {};
         Alerts* alerts = nullptr;
         UrlOpener* urls = nullptr;
     };

@@ -169,7 +169,7 @@ void MainViewController::Bind()
 void MainViewController::showSelector()
 {
     auto* options = new OptionsViewController({services_.db, services_.paths, services_.rebuildReminders, services_.log,
-                                               services_.audio, services_.alerts, services_.urls});
+                                               services_.audio, services_.isPlayable, services_.alerts, services_.urls});
     CustomUITabBarController* tabs = options->tabBarControl();
     tabs->setParentDelegate(this);
     presentation_.present(tabs, true);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "calendar/DateTimePersian.h"
+#include "platform/AudioPlayer.h"
 #include "screens/calendar/CalendarViewControllerDelegate.h"
 #include "screens/cities/SelectionControllerDelegate.h"
 #include "screens/main/CityPages.h"
@@ -15,7 +16,6 @@ class QAbstractButton;
 namespace kavenda {
 
 class Alerts;
-class AudioPlayer;
 class Clock;
 class Log;
 class MyDB;
@@ -44,6 +44,7 @@ public:
         // The options' own services; a screen without one leaves its feature out.
         Log* log = nullptr;
         AudioPlayer* audio = nullptr;
+        PlayableCheck isPlayable = {};
         Alerts* alerts = nullptr;
         UrlOpener* urls = nullptr;
     };

@@ -115,7 +115,7 @@ std::optional<SoundChoice::OwnRecording> SoundChoice::refusal(int row, const std
     const std::uintmax_t size = std::filesystem::file_size(source, error);
     if (!error && size > largestOwnRecording)
         return OwnRecording::tooLarge;
-    if (!isPlayable(source))
+    if (isPlayable && !isPlayable(source))
         return OwnRecording::notPlayable;
     return std::nullopt;
 }

@@ -1,14 +1,14 @@
 #pragma once
 
+#include "platform/AudioPlayer.h"
+
 #include <cstdint>
 #include <filesystem>
-#include <functional>
 #include <optional>
 #include <string>
 
 namespace kavenda {
 
-class AudioPlayer;
 class MyDB;
 class Paths;
 
@@ -24,7 +24,6 @@ public:
     static constexpr std::uintmax_t largestOwnRecording = 50 * 1024 * 1024;
 
     enum class OwnRecording { copied, notPlayable, notCopied, tooLarge };
-    using PlayableCheck = std::function<bool(const std::filesystem::path&)>;
 
     // Without an audio player nothing is previewed.
     SoundChoice(MyDB& db, const Paths& paths, AudioPlayer* audio);

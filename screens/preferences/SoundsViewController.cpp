@@ -1,6 +1,5 @@
 #include "screens/preferences/SoundsViewController.h"
 
-#include "desktop/AudioModule.h"
 #include "platform/Alerts.h"
 #include "screens/WriteFailureLine.h"
 #include "screens/preferences/SaveButton.h"
@@ -44,10 +43,10 @@ std::filesystem::path localPath(const QString& file)
 
 }  // namespace
 
-SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPlayer* audio, Alerts* alerts,
-                                           QWidget* parent)
+SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPlayer* audio, PlayableCheck isPlayable,
+                                           Alerts* alerts, QWidget* parent)
     : QWidget(parent), layout_(std::make_unique<::Ui::SoundsViewController>()), choice_(db, paths, audio),
-      alerts_(alerts), saveButton_(makeSaveButton(this)),
+      isPlayable_(std::move(isPlayable)), alerts_(alerts), saveButton_(makeSaveButton(this)),
       shippedButton_(new QPushButton(QStringLiteral("صدای برنامه"), this))
 {
     installAccessibleInterface<QListWidget, ListRowsAccessible>();
@@ -146,7 +145,7 @@ void SoundsViewController::useOwnRecording(const QString& file)
     const std::optional<int> row = choice_.selectedPath();
     if (!row || copying_)
         return;
-    if (const auto refused = choice_.refusal(*row, localPath(file), AudioModule::isPlayable)) {
+    if (const auto refused = choice_.refusal(*row, localPath(file), isPlayable_)) {
         refuseOwnRecording(file, *refused);
         emit ownRecordingSettled();
         return;

@@ -19,7 +19,6 @@ class SoundsViewController;
 namespace kavenda {
 
 class Alerts;
-class AudioPlayer;
 class MyDB;
 class Paths;
 
@@ -29,8 +28,10 @@ class SoundsViewController : public QWidget, public SavesChanges {
     Q_OBJECT
 
 public:
-    // Without an audio player there are no previews; without alerts a refusal is not shown.
-    SoundsViewController(MyDB& db, const Paths& paths, AudioPlayer* audio, Alerts* alerts, QWidget* parent = nullptr);
+    // Without an audio player there are no previews; without a playable check every file that
+    // can be copied is taken; without alerts a refusal is not shown.
+    SoundsViewController(MyDB& db, const Paths& paths, AudioPlayer* audio, PlayableCheck isPlayable, Alerts* alerts,
+                         QWidget* parent = nullptr);
     ~SoundsViewController() override;
 
     const SoundChoice& choice() const { return choice_; }
@@ -66,6 +67,7 @@ private:
 
     std::unique_ptr<::Ui::SoundsViewController> layout_;
     SoundChoice choice_;
+    PlayableCheck isPlayable_;
     Alerts* alerts_;
     QPointer<QPushButton> saveButton_;
     QPointer<QFileDialog> fileDialog_;

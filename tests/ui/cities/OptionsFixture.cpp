@@ -1,5 +1,6 @@
 #include "tests/ui/cities/OptionsFixture.h"
 
+#include "desktop/AudioModule.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
 #include "screens/cities/OptionsViewController.h"
@@ -57,7 +58,8 @@ void OptionsFixture::open(OptionServices services)
 {
     auto* options = new OptionsViewController({db_, services.paths ? *services.paths : paths_,
                                                [this] { reminders_.update(); }, services.log ? services.log : &log_,
-                                               services.audio, services.alerts, services.urls});
+                                               services.audio, AudioModule::isPlayable, services.alerts,
+                                               services.urls});
     tabs_ = options->tabBarControl();
     tabs_->setParentDelegate(this);
     presentation_->present(tabs_, true);
