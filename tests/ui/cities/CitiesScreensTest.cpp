@@ -84,16 +84,6 @@ struct RecordingSearchDelegate final : SearchControllerDelegate {
     QStringList calls;
 };
 
-bool isGrey(const QListWidgetItem* item)
-{
-    return item->foreground().style() != Qt::NoBrush && item->foreground().color() == QColor(Qt::gray);
-}
-
-QRect frameIn(const QWidget* ancestor, const QWidget* widget, const QRect& rect)
-{
-    return {widget->mapTo(ancestor, rect.topLeft()), rect.size()};
-}
-
 class RecordingUrlOpener final : public UrlOpener {
 public:
     void open(const std::string& address) override { opened.push_back(address); }
@@ -116,21 +106,6 @@ private slots:
     {
         setAnimationsEnabled(false);
         usePersianFont();
-    }
-
-    void theLayoutIsLoadedOnceAndGoesWithItsTabs()
-    {
-        OptionsFixture f;
-        test::RecordingLog log;
-        const std::filesystem::path folder = std::filesystem::path(f.db().dbPath()).parent_path();
-        FixedPaths paths(folder, folder);
-        auto* options = new OptionsViewController({f.db(), paths, [] {}, &log});
-        CustomUITabBarController* tabs = options->tabBarControl();
-        QCOMPARE(options->tabBarControl(), tabs);
-        QCOMPARE(tabs->findChildren<SelectionController*>().size(), 1);
-        QPointer<OptionsViewController> loader = options;
-        delete tabs;
-        QVERIFY(!loader);
     }
 
     void aFirstStartOpensTheSearchOnceAndLeavesEverythingButTheAboutTabDisabled()
@@ -221,81 +196,6 @@ private slots:
         QVERIFY(f.selection()->btnDone()->isEnabled());
         for (int tab = 1; tab <= 3; ++tab)
             QVERIFY(f.tabs()->isTabEnabled(tab));
-    }
-
-    void provinceModeListsProvincesAndHandsThePickBack()
-    {
-        OptionsFixture f;
-        RecordingSearchDelegate delegate;
-        SearchController search(f.db(), 1);
-        search.setDelegate(&delegate);
-        QCOMPARE(resultNames(search),
-                 (QStringList{QStringLiteral("اصفهان"), QStringLiteral("تهران"), QStringLiteral("کرمان"),
-                              QStringLiteral("یزد")}));
-        QTest::mouseClick(search.cancelButton(), Qt::LeftButton);
-        QCOMPARE(delegate.calls, QStringList{QStringLiteral("closeForm")});
-
-        delegate.calls.clear();
-        typeText(search.searchBar(), QStringLiteral("كر"));
-        QCOMPARE(search.tblResult()->count(), 1);
-        QTest::mouseClick(search.tblResult()->viewport(), Qt::LeftButton, {},
-                          search.tblResult()->visualItemRect(search.tblResult()->item(0)).center());
-        QCOMPARE(delegate.calls, (QStringList{QStringLiteral("setProvince 4 کرمان"), QStringLiteral("closeForm")}));
-        QVERIFY(f.orderings().isEmpty());
-    }
-
-    void deletingKeepsShippedPlacesAndDropsUserMadeOnes()
-    {
-        OptionsFixture f;
-        f.choose({kashan, shahriar});
-        f.open();
-        EditableCityList* list = f.selection()->tbl();
-        QCOMPARE(list->count(), 2);
-
-        deleteRow(list, 1);
-        QCOMPARE(f.listedNames(), QStringList{QStringLiteral("کاشان (اصفهان)")});
-        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 63"), 0);
-        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 63"), 0);
-        QVERIFY(f.tabs()->isTabEnabled(1));
-
-        // Pressing elsewhere withdraws the question.
-        clickAt(list->viewport(), list->deleteControlRect(0).center());
-        clickAt(list->viewport(), list->visualItemRect(list->item(0)).center());
-        QCOMPARE(list->confirmingRow(), -1);
-        QCOMPARE(list->count(), 1);
-
-        deleteRow(list, 0);
-        QCOMPARE(list->count(), 0);
-        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 62"), 1);
-        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 62"), 1);
-        QVERIFY(!f.selection()->btnDone()->isEnabled());
-        for (int tab = 1; tab <= 3; ++tab)
-            QVERIFY(!f.tabs()->isTabEnabled(tab));
-        QVERIFY(f.tabs()->isTabEnabled(4));
-        // emptying the list does not open the search
-        QCOMPARE(f.navigation()->top(), f.selection());
-    }
-
-    void draggingRenumbersAndTheColoursFollowTheOrder()
-    {
-        OptionsFixture f;
-        f.choose({tehran, isfahan, kerman, yazd});
-        f.open();
-        EditableCityList* list = f.selection()->tbl();
-        QVERIFY(!isGrey(list->item(0)));
-        QVERIFY(isGrey(list->item(1)));
-
-        dragRow(list, 0, 2);
-        QCOMPARE(f.orderings(), (QStringList{"33:0", "35:1", "32:2", "36:3"}));
-        QCOMPARE(f.listedNames().first(), QStringLiteral("اصفهان (اصفهان)"));
-        QCOMPARE(f.listedNames().at(2), QStringLiteral("تهران (تهران)"));
-        QVERIFY(!isGrey(list->item(0)));
-        for (int row = 1; row < 4; ++row)
-            QVERIFY(isGrey(list->item(row)));
-
-        dragRow(list, 3, 1);
-        QCOMPARE(f.orderings(), (QStringList{"33:0", "36:1", "35:2", "32:3"}));
-        f.saveScreenshot(QStringLiteral("cities-list.png"));
     }
 
     // A removal or a move the database refuses is said under the list, which shows what is stored.
@@ -459,75 +359,6 @@ private slots:
         QTest::keyClick(createRow, Qt::Key_Enter);
         QTRY_VERIFY(f.navigation()->top() != f.selection());
         QCOMPARE(f.navigation()->top()->metaObject()->className(), "kavenda::NewCityController");
-    }
-
-    // More rows than the holder shows: its bar stands beside the rows' controls, not over them.
-    void aLongListScrollsBesideItsRows()
-    {
-        OptionsFixture f;
-        for (int id = 40; id < 44; ++id)
-            QVERIFY(f.db().ExecuteNonQuery("INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES("
-                                           + std::to_string(id) + ", 'ری', 1, 0)"));
-        f.choose({tehran, isfahan, kerman, yazd, kashan, shahriar, 40, 41, 42, 43});
-        f.open();
-        QScrollArea* holder = f.selection()->tblScrollView();
-        EditableCityList* list = f.selection()->tbl();
-        QCOMPARE(list->count(), 10);
-        QCOMPARE(holder->widget()->size(), QSize(300, 441));
-        QTRY_VERIFY(holder->verticalScrollBar()->isVisible());
-        const QRect bar = frameIn(holder, holder->verticalScrollBar(), holder->verticalScrollBar()->rect());
-        const QRect shown = frameIn(holder, holder->viewport(), holder->viewport()->rect());
-        for (int row = 0; row < list->count(); ++row) {
-            for (const QRect& control : {list->deleteControlRect(row), list->gripRect(row)}) {
-                const QRect at = frameIn(holder, list->viewport(), control);
-                QVERIFY2(at.right() < bar.left() || at.left() > bar.right(), qPrintable(QString::number(row)));
-                QVERIFY2(at.left() >= shown.left() && at.right() <= shown.right(), qPrintable(QString::number(row)));
-            }
-        }
-        holder->verticalScrollBar()->setValue(holder->verticalScrollBar()->maximum());
-        f.saveScreenshot(QStringLiteral("cities-long-list.png"));
-    }
-
-    // The options turn in with the list as it will stand, not with an empty one.
-    void theFlipShowsTheListsRows()
-    {
-        const Animated animated;
-        OptionsFixture f;
-        f.choose({tehran, isfahan, kerman});
-        f.open();
-        const auto* flip = f.presentation()->findChild<FlipTransition*>();
-        QVERIFY(flip);
-        const QImage during = flip->finalPicture().toImage();
-        QTRY_VERIFY(!f.presentation()->findChild<FlipTransition*>());
-        QTest::qWait(50);
-        const QImage after = f.tabs()->grab().toImage();
-        const QScrollArea* holder = f.selection()->tblScrollView();
-        const QRect list = frameIn(f.tabs(), holder, holder->rect());
-        QCOMPARE(during.copy(list), after.copy(list));
-    }
-
-    // Persian is typed from the right: that is where the empty field's cursor waits.
-    void theEmptySearchFieldWaitsAtTheRight()
-    {
-        OptionsFixture f;
-        f.open();
-        QTRY_VERIFY(f.search());
-        QLineEdit* field = f.search()->searchBar();
-        QVERIFY(field->text().isEmpty());
-        field->repaint();  // the field places its text, and the cursor, as it paints
-        const QRect cursor = field->inputMethodQuery(Qt::ImCursorRectangle).toRect();
-        QVERIFY2(cursor.center().x() > field->width() * 3 / 4, qPrintable(QString::number(cursor.center().x())));
-    }
-
-    void theWebSiteOpensInTheBrowser()
-    {
-        RecordingUrlOpener urls;
-        OptionsFixture f;
-        f.open({.urls = &urls});
-        // By name, as a control of a layout calls it.
-        QVERIFY(QMetaObject::invokeMethod(f.selection(), "ShowWebSite"));
-        QCOMPARE(urls.opened, std::vector<std::string>{KAVENDA_HOMEPAGE});
-        QVERIFY(QString::fromStdString(urls.opened.front()).startsWith(QStringLiteral("https://")));
     }
 
     void doneRebuildsTheRemindersBeforeTheOptionsClose()

@@ -134,26 +134,6 @@ private slots:
         QCOMPARE(lines.back(), std::string("MainViewController"));
     }
 
-    void unminimisingIsAReturnToTheForegroundToo()
-    {
-        QSignalSpy refreshed(delegate->rootViewController(), &MainViewController::refreshed);
-        const int updates = notifications.cancelCalls;
-        delegate->window()->showMinimized();
-        QTest::qWait(50);
-        delegate->window()->showNormal();
-        QTRY_COMPARE(notifications.cancelCalls, updates + 1);
-        QTRY_COMPARE(refreshed.count(), 2);
-    }
-
-    void aRefreshReturnsToToday()
-    {
-        MainViewController& main = *delegate->rootViewController();
-        main.closeCalendar(DateTimePersian::initWithPersianDate("920411", calendar), nullptr);
-        QCOMPARE(main.localDtp().getPersianDate(), std::string("920411"));
-        main.refresh();
-        QCOMPARE(main.localDtp().getPersianDate(), std::string("920410"));
-    }
-
     void aNotificationIsAnAlertWhileTheWindowIsActiveElseADesktopOne()
     {
         NotificationRecord record;

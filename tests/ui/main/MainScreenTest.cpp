@@ -34,25 +34,9 @@ using test::MainScreenFixture;
 const Instant summerDay = test::tehran(2013, 7, 1, 12, 0);
 constexpr int tehran = 32, isfahan = 33, mashhad = 34, varamin = 64;
 
-bool isWhite(QRgb pixel)
-{
-    return qRed(pixel) > 230 && qGreen(pixel) > 230 && qBlue(pixel) > 230;
-}
-
-bool isBlack(QRgb pixel)
-{
-    return qRed(pixel) < 25 && qGreen(pixel) < 25 && qBlue(pixel) < 25;
-}
-
 QList<QPointer<CustomUIImageView>> tracked(const QList<CustomUIImageView*>& pages)
 {
     return {pages.begin(), pages.end()};
-}
-
-QString accessibleName(QObject* object)
-{
-    QAccessibleInterface* face = QAccessible::queryAccessibleInterface(object);
-    return face ? face->text(QAccessible::Name) : QStringLiteral("(none)");
 }
 
 }  // namespace
@@ -87,59 +71,6 @@ private slots:
         f.saveScreenshot(QStringLiteral("main-1392-04-10.png"));
     }
 
-    void aPageShowsItsDayInPersian()
-    {
-        MainScreenFixture f(summerDay);
-        f.choose({tehran});
-        f.show();
-        const QStringList expected{QStringLiteral("تهران"),  QStringLiteral("روز صنعت و معدن و ..."),
-                                   QStringLiteral("١٠ تیر"), QStringLiteral("٠٤:٥١"),
-                                   QStringLiteral("٠٦:٢٦"),  QStringLiteral("١٣:٠٧"),
-                                   QStringLiteral("٢٠:٢٥"),  QStringLiteral("٢٠:٤٥"),
-                                   QStringLiteral("٠٠:١٦"),  QStringLiteral("٠٤:٥٢"),
-                                   QStringLiteral("٠٦:٢٧")};
-        QCOMPARE(MainScreenFixture::texts(f.pages().first()), expected);
-    }
-
-    void aCityThatIsNotACentreShowsItsOffsetsUnderItsOwnName()
-    {
-        MainScreenFixture f(summerDay);
-        f.choose({varamin, tehran});
-        f.show();
-        const QStringList texts = MainScreenFixture::texts(f.pages().last());
-        QCOMPARE(texts[0], QStringLiteral("ورامین"));
-        // Five minutes before تهران's times, the next day's dawn and sunrise too.
-        QCOMPARE(texts.mid(3),
-                 (QStringList{QStringLiteral("٠٤:٤٦"), QStringLiteral("٠٦:٢١"), QStringLiteral("١٣:٠٢"),
-                              QStringLiteral("٢٠:٢٠"), QStringLiteral("٢٠:٤٠"), QStringLiteral("٠٠:١١"),
-                              QStringLiteral("٠٤:٤٧"), QStringLiteral("٠٦:٢٢")}));
-        QCOMPARE(MainScreenFixture::texts(f.pages().first())[3], QStringLiteral("٠٤:٥١"));
-    }
-
-    void theIndicatorFollowsOnlyOffsetsThatRestOnAPage()
-    {
-        MainScreenFixture f(summerDay);
-        f.choose({tehran, isfahan, mashhad, varamin});
-        MainViewController& main = f.show();
-        QCOMPARE(main.pageControl()->currentPage(), 3);
-
-        const QList<QPair<double, int>> moves{{0, 0}, {639.5, 0}, {650, 0}, {640, 2}, {320.5, 2}, {320, 1}};
-        for (const auto& [offset, page] : moves) {
-            main.scrollView()->setContentOffset(offset, false);
-            QCOMPARE(main.pageControl()->currentPage(), page);
-        }
-    }
-
-    void theIndicatorScrollsToItsPage()
-    {
-        MainScreenFixture f(summerDay);
-        f.choose({tehran, isfahan, mashhad});
-        MainViewController& main = f.show();
-        main.pageControl()->setCurrentPage(1);
-        main.pageAction();
-        QTRY_COMPARE(main.scrollView()->contentOffset(), 320.0);
-    }
-
     // A click on a dot goes to its page; a click beside the dots moves one page that way.
     void clickingTheIndicatorMovesThePages()
     {
@@ -163,35 +94,6 @@ private slots:
             QTest::mouseClick(window, Qt::LeftButton, {}, indicator->mapTo(&f.window(), at));
             QCOMPARE(indicator->currentPage(), page);
             QTRY_COMPARE(main.scrollView()->contentOffset(), 320.0 * page);
-        }
-    }
-
-    // Inside the pager a label takes the viewport's text colour unless told otherwise.
-    void theDayIsWrittenInWhiteWithABlackShadow()
-    {
-        MainScreenFixture f(summerDay);
-        f.choose({tehran});
-        f.show();
-        const QImage artwork(QString::fromStdString((f.paths.resourceFolder() / "MainView.png").string()));
-        if (artwork.isNull())
-            QSKIP("the build made no artwork");
-        const QImage shown = f.window().grab().toImage();
-        CustomUIImageView* page = f.pages().first();
-        for (const QLabel* label : page->findChildren<QLabel*>(Qt::FindDirectChildrenOnly)) {
-            if (label->text().isEmpty())
-                continue;
-            int white = 0;
-            int shadow = 0;
-            const QRect frame(label->mapTo(&f.window(), QPoint(0, 0)), label->size());
-            for (int y = frame.top(); y <= frame.bottom(); ++y) {
-                for (int x = frame.left(); x <= frame.right(); ++x) {
-                    const QRgb pixel = shown.pixel(x, y);
-                    white += isWhite(pixel) && !isWhite(artwork.pixel(x, y)) ? 1 : 0;
-                    shadow += isBlack(pixel) && !isBlack(artwork.pixel(x, y)) ? 1 : 0;
-                }
-            }
-            QVERIFY2(white >= 10, qPrintable(label->text()));
-            QVERIFY2(shadow >= 10, qPrintable(label->text()));
         }
     }
 
@@ -224,40 +126,6 @@ private slots:
         f.choose({mashhad});
         main.refresh();
         QCOMPARE(main.pageCount(), 3);
-    }
-
-    void theIndicatorAndThePagesReadToAScreenReader()
-    {
-        MainScreenFixture f(summerDay);
-        f.choose({tehran, isfahan, mashhad});
-        MainViewController& main = f.show();
-
-        QAccessibleInterface* indicator = QAccessible::queryAccessibleInterface(main.pageControl());
-        QCOMPARE(indicator->role(), QAccessible::Slider);
-        QCOMPARE(indicator->text(QAccessible::Name), QStringLiteral("صفحه ٣ از ٣"));
-        QVERIFY(indicator->valueInterface());
-        QCOMPARE(indicator->valueInterface()->maximumValue().toInt(), 2);
-        indicator->actionInterface()->doAction(QAccessibleActionInterface::decreaseAction());
-        QCOMPARE(indicator->text(QAccessible::Name), QStringLiteral("صفحه ٢ از ٣"));
-        QTRY_COMPARE(main.scrollView()->contentOffset(), 320.0);
-        indicator->valueInterface()->setCurrentValue(0);
-        QTRY_COMPARE(main.scrollView()->contentOffset(), 0.0);
-
-        // Each page by its city and date; only the page on show is on screen.
-        const auto pages = f.pages();
-        QAccessibleInterface* first = QAccessible::queryAccessibleInterface(pages[0]);
-        QCOMPARE(first->role(), QAccessible::Pane);
-        QCOMPARE(first->text(QAccessible::Name), QStringLiteral("مشهد، ١٠ تیر"));
-        QVERIFY(!first->state().offscreen);
-        QVERIFY(QAccessible::queryAccessibleInterface(pages[2])->state().offscreen);
-
-        // The times read as caption and value, in the order of the rows.
-        QStringList readings;
-        for (const QLabel* label : pages[2]->findChildren<QLabel*>(Qt::FindDirectChildrenOnly).mid(3))
-            readings << accessibleName(const_cast<QLabel*>(label));
-        QCOMPARE(readings.first(), QStringLiteral("اذان صبح ٠٤:٥١"));
-        QCOMPARE(readings.last(), QStringLiteral("طلوع آفتاب فردا ٠٦:٢٧"));
-        QCOMPARE(readings.size(), 8);
     }
 
     // Every screen and tab, walked as a screen reader meets it.
@@ -306,15 +174,6 @@ private slots:
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
     }
 
-    void aTallScreenGivesTheWindowItsHeight()
-    {
-        MainScreenFixture f(summerDay, 568);
-        f.choose({tehran, isfahan});
-        f.show();
-        QCOMPARE(f.window().height(), 548);
-        f.saveScreenshot(QStringLiteral("main-tall.png"));
-    }
-
     void aPickedDayStaysUntilTheNextRefresh()
     {
         MainScreenFixture f(summerDay);
@@ -349,17 +208,6 @@ private slots:
         QCOMPARE(main.pageCount(), 1);
         QCOMPARE(main.pageControl()->numberOfPages(), 1);
         QCOMPARE(MainScreenFixture::texts(f.pages().first()).first(), QStringLiteral("اصفهان"));
-    }
-
-    void theOptionsButtonOpensTheOptionsOverThePages()
-    {
-        MainScreenFixture f(summerDay);
-        f.choose({tehran});
-        MainViewController& main = f.show();
-        QCOMPARE(f.presentation().depth(), 1);
-        QTest::mouseClick(main.findChild<QAbstractButton*>(QStringLiteral("optionsButton")), Qt::LeftButton);
-        QCOMPARE(f.presentation().depth(), 2);
-        QVERIFY(qobject_cast<CustomUITabBarController*>(f.presentation().top()));
     }
 
     void aDayWithoutDataKeepsThePagesOfEveryCity()

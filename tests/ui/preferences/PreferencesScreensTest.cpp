@@ -170,31 +170,6 @@ private slots:
         QCOMPARE(f.setting("Item5"), std::string("0"));
     }
 
-    void sliderRowsAndThePickerComeAndGoWithTheirAnimations()
-    {
-        Preferences f;
-        const AnimationsOn animated;
-        auto* settings = f.showTab<SettingController>(1);
-        click(settings->switchOf(4));
-        QVERIFY(settings->sliderRow(1)->isVisible());
-        QVERIFY2(settings->sliderRow(1)->maximumHeight() < 44, "still coming down");
-        QTRY_COMPARE(settings->sliderRow(1)->maximumHeight(), 44);
-        click(settings->switchOf(4));
-        QVERIFY2(settings->sliderRow(1)->isVisible(), "still fading");
-        QTRY_VERIFY(!settings->sliderRow(1)->isVisible());
-
-        QString asked;
-        answerNextQuestion(QStringLiteral("دور انداختن"), &asked);
-        auto* occasions = f.showTab<HistoryViewController>(3);
-        click(occasions->switchOn());
-        QVERIFY(occasions->picker()->isVisible());
-        QTest::qWait(HistoryViewController::fadeMilliseconds + 100);
-        click(occasions->switchOn());
-        QVERIFY(!occasions->picker()->isEnabled());
-        QVERIFY2(occasions->picker()->isVisible(), "still fading");
-        QTRY_VERIFY(!occasions->picker()->isVisible());
-    }
-
     void soundRowsPreviewStopAndSave()
     {
         Preferences f;
@@ -448,27 +423,6 @@ private slots:
         QVERIFY(f.audio.playing);
         click(sounds->saveButton());
         QCOMPARE(f.setting("Item6"), "7");
-    }
-
-    void aboutRowsOpenMailOrTheSiteAndWriteNothing()
-    {
-        Preferences f;
-        const std::string before = f.setting("Item0||Item1||Item2||Item3||Item4||Item5||Item6||Item7");
-        auto* screen = f.showTab<AboutController>(4);
-        QVERIFY(screen);
-        QCOMPARE(screen->tbl()->item(0)->text(), QStringLiteral("تیم کاوندا"));
-        f.saveScreenshot(QStringLiteral("preferences-about.png"));
-        for (int row = 0; row < 5; ++row)
-            clickRow(screen->tbl(), row);
-        const std::string mail = "mailto:?to=" KAVENDA_SUPPORT_EMAIL "&subject=KavendaV1.5";
-        QCOMPARE(f.urls.opened, (std::vector<std::string>{mail, mail, mail, mail, KAVENDA_HOMEPAGE}));
-        // the same rows from the keyboard
-        QVERIFY(screen->tbl()->focusPolicy() & Qt::TabFocus);
-        screen->tbl()->setCurrentRow(4);
-        QTest::keyClick(screen->tbl(), Qt::Key_Return);
-        QCOMPARE(f.urls.opened.back(), std::string(KAVENDA_HOMEPAGE));
-        QCOMPARE(f.urls.opened.size(), 6u);
-        QCOMPARE(f.setting("Item0||Item1||Item2||Item3||Item4||Item5||Item6||Item7"), before);
     }
 
     void savedChoicesReachTheRemindersOnDone()

@@ -92,18 +92,6 @@ private slots:
         QCOMPARE(ended.first().first().toInt(), static_cast<int>(settled) / 320);
     }
 
-    void pageIndicatorKeepsItsPageInRange()
-    {
-        PageIndicator indicator;
-        indicator.setNumberOfPages(3);
-        indicator.setCurrentPage(2);
-        QCOMPARE(indicator.currentPage(), 2);
-        indicator.setCurrentPage(7);
-        QCOMPARE(indicator.currentPage(), 2);
-        indicator.setNumberOfPages(1);
-        QCOMPARE(indicator.currentPage(), 0);
-    }
-
     // Keys and clicks the user makes are reported; pages set by code are not.
     void pageIndicatorReportsOnlyTheUsersChanges()
     {
@@ -125,27 +113,6 @@ private slots:
         QCOMPARE(chosen.takeLast().first().toInt(), 3);
         QCOMPARE(indicator.pageAt(indicator.dotRect(0).left() - 6), 2);  // beside the dots: one step
         QCOMPARE(indicator.pageAt(indicator.dotRect(2).right() + 3), 2);  // the gap belongs to the dot
-    }
-
-    void toggleSwitchReadsAsACheckBoxNamedByItsRow()
-    {
-        QWidget row;
-        auto* label = new QLabel(QStringLiteral("اذان صبح"), &row);
-        auto* toggle = new ToggleSwitch(&row);
-        label->setBuddy(toggle);
-        row.show();
-        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(toggle);
-        QCOMPARE(face->role(), QAccessible::CheckBox);
-        QCOMPARE(face->text(QAccessible::Name), QStringLiteral("اذان صبح"));
-        QVERIFY(face->state().checkable);
-        QVERIFY(!face->state().checked);
-        QSignalSpy toggled(toggle, &ToggleSwitch::toggled);
-        face->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
-        QVERIFY(toggle->isChecked());
-        QVERIFY(face->state().checked);
-        QCOMPARE(toggled.size(), 1);
-        toggle->setAccessibleName(QStringLiteral("سحر"));
-        QCOMPARE(face->text(QAccessible::Name), QStringLiteral("سحر"));
     }
 
     void navigationPushPopTitlesAndButtons()
@@ -180,21 +147,6 @@ private slots:
         QVERIFY(done->isVisible());
         stack.pop(false);
         QCOMPARE(stack.count(), 1);
-    }
-
-    void navigationBarHidesAndGivesItsRoomToTheScreen()
-    {
-        NavigationStack stack;
-        stack.resize(320, 460);
-        stack.show();
-        auto* screen = new QWidget;
-        stack.push(screen, false);
-        QCOMPARE(screen->height(), 460 - 44);
-        stack.setNavigationBarHidden(true, true);
-        QVERIFY(stack.isNavigationBarHidden());
-        QCOMPARE(screen->height(), 460);
-        stack.setNavigationBarHidden(false, false);
-        QCOMPARE(screen->height(), 416);
     }
 
     void presentationStackCountsAndDismissesItsScreens()
