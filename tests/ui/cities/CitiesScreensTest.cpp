@@ -361,18 +361,6 @@ private slots:
         QCOMPARE(f.navigation()->top()->metaObject()->className(), "kavenda::NewCityController");
     }
 
-    void doneRebuildsTheRemindersBeforeTheOptionsClose()
-    {
-        OptionsFixture f;
-        f.choose({tehran});
-        f.open();
-        QCOMPARE(f.notifications.cancelCalls, 0);
-        QTest::mouseClick(f.selection()->btnDone(), Qt::LeftButton);
-        QCOMPARE(f.notifications.cancelCalls, 1);
-        QCOMPARE(f.pendingAtClose.size(), 1);
-        QVERIFY(f.pendingAtClose.first() > 0);
-        QCOMPARE(f.presentation()->depth(), 1);
-    }
 };
 
 }  // namespace kavenda

@@ -66,15 +66,5 @@ TEST(PrayerTimes, OrderAndMidnight)
     }
 }
 
-TEST(PrayerTimes, TimeTexts)
-{
-    char buffer[8];
-    EXPECT_EQ(formatTime(4.0 + 35.4 / 60.0, buffer), "4:35");
-    EXPECT_EQ(formatTime(4.0 + 35.6 / 60.0, buffer), "4:36");
-    EXPECT_EQ(formatTime(23.0 + 59.7 / 60.0, buffer), "0:00");
-    EXPECT_EQ(formatTime(24.0 + 10.0 / 60.0, buffer), "0:10");
-    EXPECT_EQ(formatTime(12.0, buffer), "12:00");
-}
-
 }  // namespace
 }  // namespace kavenda::almanac

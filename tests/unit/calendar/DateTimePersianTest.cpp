@@ -181,14 +181,5 @@ TEST(AddMinutes, WrapsAroundMidnightBothWays)
         EXPECT_EQ(DateTimePersian::add(c.time, c.minutes), c.result) << c.time << " " << c.minutes;
 }
 
-TEST(DateTexts, FullDateAndMonthNames)
-{
-    EXPECT_EQ(DateTimePersian::initWithPersianDate("920105", calendar).getFullPersianDate(), "05 فروردین");
-    EXPECT_EQ(DateTimePersian::initWithPersianDate("921010", calendar).getFullPersianDate(), "10 دی");
-    EXPECT_EQ(DateTimePersian::getMonthName(0), "فروردین");
-    EXPECT_EQ(DateTimePersian::getMonthName(11), "اسفند");
-    EXPECT_EQ(DateTimePersian::getMonthName(12), "");
-}
-
 }  // namespace
 }  // namespace kavenda

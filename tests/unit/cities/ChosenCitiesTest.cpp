@@ -119,29 +119,6 @@ TEST_F(ChosenCitiesTest, DoneAndThePreferenceTabsFollowTheCount)
     EXPECT_FALSE(cities.preferencesEnabled());
 }
 
-TEST_F(ChosenCitiesTest, OnlyTheFirstRowKeepsTheDefaultColour)
-{
-    EXPECT_FALSE(ChosenCities::isDimmed(0));
-    EXPECT_TRUE(ChosenCities::isDimmed(1));
-    EXPECT_TRUE(ChosenCities::isDimmed(6));
-}
-
-TEST_F(ChosenCitiesTest, TheListShowsEveryRowAndAtLeastSevenRowsWorth)
-{
-    const std::vector<std::pair<int, int>> heights = {{0, 7}, {6, 7}, {7, 7}, {8, 8}, {10, 10}};
-    ASSERT_TRUE(db.ExecuteNonQuery("INSERT INTO tStates(StateID, Name, ParentID) VALUES (70, 'الف', 1), (71, 'ب', 1), "
-                                   "(72, 'پ', 1), (73, 'ت', 1), (74, 'ث', 1)"));
-    const int cityIds[] = {32, 33, 35, 36, 62, 63, 70, 71, 72, 73, 74};
-    for (const auto& [n, height] : heights) {
-        ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tSelectedStates"));
-        for (int i = 0; i < n; ++i)
-            choose(cityIds[i], i);
-        cities.updateDataSource();
-        ASSERT_EQ(cities.count(), n);
-        EXPECT_EQ(cities.shownRows(), height) << n << " cities";
-    }
-}
-
 TEST_F(ChosenCitiesTest, TheSearchOpensByItselfOnlyOnTheFirstAppearanceWithoutCities)
 {
     EXPECT_TRUE(cities.appear());

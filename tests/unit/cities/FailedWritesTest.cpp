@@ -81,40 +81,6 @@ TEST_F(FailedWritesTest, SettingsSoundAndOccasionsKeepTheirValuesUntilSaved)
     }
 }
 
-TEST_F(FailedWritesTest, TheCityListShowsWhatIsStoredWhenARemovalOrAMoveIsRefused)
-{
-    choose(32, 0);
-    choose(33, 1);
-    choose(35, 2);
-    ChosenCities cities(db, [] {});
-    cities.updateDataSource();
-
-    // clang-format off
-    const struct {
-        const char* what;
-        const char* table;
-        const char* action;
-        std::function<bool()> write;
-    } cases[] = {
-        {"a removal", "tSelectedStates", "DELETE", [&] { return cities.remove(1); }},
-        {"a move",    "tSelectedStates", "UPDATE", [&] { return cities.move(0, 2); }},
-    };
-    // clang-format on
-    for (const auto& c : cases) {
-        const std::string before = everything();
-        refuse(c.table, c.action);
-        EXPECT_FALSE(c.write()) << c.what;
-        EXPECT_EQ(everything(), before) << c.what;
-        EXPECT_EQ(cities.count(), 3) << c.what;
-        EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0", "33:1", "35:2"})) << c.what;
-        allow();
-    }
-    EXPECT_TRUE(cities.move(0, 2));
-    EXPECT_EQ(orderings(), (std::vector<std::string>{"33:0", "35:1", "32:2"}));
-    EXPECT_TRUE(cities.remove(0));
-    EXPECT_EQ(orderings(), (std::vector<std::string>{"35:1", "32:2"}));
-}
-
 TEST_F(FailedWritesTest, ARemovedCityOfOurOwnGoesWholeOrStays)
 {
     choose(32, 0);

@@ -48,22 +48,6 @@ TEST_F(DayPageTest, NameDateAndTimesInPersianDigits)
         EXPECT_EQ(page.time(k), expected[static_cast<std::size_t>(k - 1)]) << k;
 }
 
-// The artwork holds the captions; a screen reader gets each caption with its value.
-TEST_F(DayPageTest, EachTimeReadsAsItsCaptionAndValue)
-{
-    DateTimePersian date = on("920410");
-    const DayPage page(tehranRow(), date);
-    const std::vector<std::string> expected{"اذان صبح ٠٥:٥٣",      "طلوع آفتاب ٠٧:٢٠",     "اذان ظهر ١٣:٠٥",
-                                            "غروب آفتاب ١٨:٤٩",    "اذان مغرب ١٩:٠٨",      "نیمه شب شرعی ٠٠:٢١",
-                                            "اذان صبح فردا ٠٥:٥٤", "طلوع آفتاب فردا ٠٧:٢١"};
-    for (int k = 1; k <= DayPage::timeCount; ++k)
-        EXPECT_EQ(page.timeReading(k), expected[static_cast<std::size_t>(k - 1)]) << k;
-
-    const DayPage empty(Row{{"Name", "مشهد"}, {"Description", ""}}, date);
-    EXPECT_EQ(empty.timeReading(1), "اذان صبح");
-    EXPECT_EQ(empty.timeReading(8), "طلوع آفتاب فردا");
-}
-
 TEST_F(DayPageTest, SummerHourFollowsTheDayOfEachTime)
 {
     struct Case {

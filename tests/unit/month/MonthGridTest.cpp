@@ -69,35 +69,6 @@ TEST_F(MonthGridTest, EveryMonthOf1392StartsOnItsWeekdayAndShowsEachDayOnce)
     }
 }
 
-TEST_F(MonthGridTest, ReadsItsMonthWithTheYearsPrefix)
-{
-    EXPECT_EQ(MonthGrid::monthStatement(1392, 0),
-              "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '9201__'");
-    EXPECT_EQ(MonthGrid::monthStatement(1392, 11),
-              "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '9212__'");
-    EXPECT_EQ(MonthGrid::monthStatement(1405, 6),
-              "SELECT Description, IsHoliday FROM tEvents WHERE Date LIKE '10507__'");
-    const MonthGrid grid = open("920701");
-    ASSERT_EQ(grid.datasource().size(), 30u);
-}
-
-TEST_F(MonthGridTest, TheTitleNamesTheMonthAndTheYearInPersianDigits)
-{
-    struct Case {
-        const char* opened;
-        const char* title;
-    };
-    // clang-format off
-    const Case cases[] = {
-        {"920701", "مهر ١٣٩٢"},
-        {"1050915", "آذر ١٤٠٥"},
-        {"1101201", "اسفند ١٤١٠"},
-    };
-    // clang-format on
-    for (const Case& c : cases)
-        EXPECT_EQ(open(c.opened).title(), c.title) << c.opened;
-}
-
 TEST_F(MonthGridTest, DaysCarryTheirMeaningsAndAPickedNumberIsAlwaysOnTheSelectionsInk)
 {
     struct Case {
@@ -133,33 +104,6 @@ TEST_F(MonthGridTest, DaysCarryTheirMeaningsAndAPickedNumberIsAlwaysOnTheSelecti
     }
     EXPECT_EQ(cell(grid, 20).description,
               "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
-}
-
-TEST_F(MonthGridTest, MarksTheOpenedDayAndTodayAsTheyAreBuilt)
-{
-    struct Case {
-        const char* opened;
-        std::vector<int> selected;
-        int lastBtn;
-        std::optional<int> todayBtn;
-    };
-    // Today is 10 Tir 1392. The button built last of the two becomes the one to deselect.
-    // clang-format off
-    const Case cases[] = {
-        {"920410", {10}, 10, 10},
-        {"920415", {15}, 15, 10},
-        {"920403", {3}, 10, 10},
-        {"920503", {3}, 3, std::nullopt},
-    };
-    // clang-format on
-    for (const Case& c : cases) {
-        const MonthGrid grid = open(c.opened);
-        EXPECT_EQ(selectedDays(shown(grid)), c.selected) << c.opened;
-        ASSERT_TRUE(grid.lastBtn()) << c.opened;
-        EXPECT_EQ(grid.lastBtn()->day, c.lastBtn) << c.opened;
-        EXPECT_EQ(grid.todayBtn() ? std::optional<int>(grid.todayBtn()->day) : std::nullopt, c.todayBtn) << c.opened;
-        EXPECT_EQ(grid.today(), std::stoi(std::string(c.opened).substr(4)));
-    }
 }
 
 TEST_F(MonthGridTest, AStepSlidesToTheNextMonthWithNothingSelected)

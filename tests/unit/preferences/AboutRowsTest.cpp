@@ -20,13 +20,5 @@ TEST(AboutRowsTest, TheWebRowOpensTheSiteAndEveryOtherRowAMail)
         << "a row past the end opens nothing";
 }
 
-TEST(AboutRowsTest, TheShippedAddressesAreTheBuildsOwn)
-{
-    const AboutRows rows = AboutRows::shipped();
-    EXPECT_EQ(rows.address(4), KAVENDA_HOMEPAGE);
-    EXPECT_EQ(rows.address(3), "mailto:?to=" KAVENDA_SUPPORT_EMAIL "&subject=KavendaV1.5");
-    EXPECT_NE(rows.text(4).find(KAVENDA_HOMEPAGE), std::string::npos);
-}
-
 }  // namespace
 }  // namespace kavenda

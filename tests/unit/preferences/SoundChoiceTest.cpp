@@ -116,16 +116,6 @@ TEST_F(SoundChoiceTest, AMissingRecordingPlaysNothingButCanStillBeSaved)
     EXPECT_EQ(audio.calls, (Calls{"open " + resourceFile(4)})) << "no player, nothing to stop";
 }
 
-TEST_F(SoundChoiceTest, BuildingTheStoredRowAgainPutsTheCheckmarkBack)
-{
-    show("2");
-    choice.didSelectRow(5);
-    EXPECT_FALSE(choice.cellForRow(5));
-    EXPECT_EQ(choice.selectedPath(), 5);
-    EXPECT_TRUE(choice.cellForRow(2));
-    EXPECT_EQ(choice.selectedPath(), 2);
-}
-
 TEST_F(SoundChoiceTest, AnOwnRecordingIsCopiedUnderTheRowsNameAndPreferredFromThenOn)
 {
     const auto source = temp.path() / "my call.ogg";

@@ -287,31 +287,5 @@ TEST_F(Reminders, AnnouncementTimesThatAreOff)
     }
 }
 
-TEST_F(Reminders, TwoUpdatesLeaveTheSameSetAsOne)
-{
-    choose(63);
-    settings("Item0 = 1, Item3 = 10, Item7 = '21:30'");
-    const auto once = update();
-    const auto twice = update();
-    EXPECT_FALSE(once.empty());
-    EXPECT_EQ(once, twice);
-}
-
-// The shell sets up the shared scheduler, which must use every service it was given.
-TEST_F(Reminders, TheSharedSchedulerWorksWithTheServicesOfTheShell)
-{
-    choose(32);
-    settings("Item0 = 1, Item1 = 0, Item2 = 0, Item6 = 9, Item7 = '08:00'");
-    MyDB::setUp(paths, log);
-    MyNotification::setUp(clock, calendar, notifications, random, log);
-
-    MyNotification& shared = MyNotification::initialize();
-    EXPECT_EQ(&shared, &MyNotification::initialize());
-    shared.update();
-    ASSERT_EQ(notifications.records.size(), 10u);
-    EXPECT_EQ(notifications.records[5].soundName, "3.wav");
-    EXPECT_EQ(log.lines.front(), "08:00");
-}
-
 }  // namespace
 }  // namespace kavenda

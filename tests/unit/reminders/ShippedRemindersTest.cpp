@@ -49,38 +49,6 @@ protected:
     test::ScriptedRandom random{{0}};
 };
 
-TEST_F(ShippedReminders, ACentreGetsFiveOccasionsAndThirtyPrayerTimes)
-{
-    const auto records = updateFor(tehranCentre);
-    ASSERT_EQ(records.size(), 35u);
-    const int occasionDays[] = {2, 5, 7, 9, 16};
-    for (std::size_t i = 0; i < 5; ++i) {
-        EXPECT_EQ(records[i].soundName, "times.wav");
-        EXPECT_EQ(records[i].fireDate, tehran(2026, 11, 21 + occasionDays[i], 8, 0)) << i;
-    }
-    EXPECT_EQ(records[5].alertBody, "اذان صبح به افق تهران");
-    for (int day = 1; day <= 5; ++day) {
-        const auto at = records.begin() + 5 + 6 * (day - 1);
-        EXPECT_EQ(at[0].fireDate, stored(day, "T1")) << day;
-        EXPECT_EQ(at[1].fireDate, stored(day, "T3")) << day;
-        EXPECT_EQ(at[2].fireDate, stored(day, "T5")) << day;
-        EXPECT_EQ(at[3].fireDate, stored(day, "T2", -10)) << day;
-        EXPECT_EQ(at[4].fireDate, stored(day, "T1", -20)) << day;
-        EXPECT_EQ(at[5].fireDate, stored(day, "T5", -15)) << day;
-    }
-}
-
-// The desktop offers to stop the sound of these three.
-TEST_F(ShippedReminders, OnlyTheThreeCallsAreCalls)
-{
-    const auto records = updateFor(tehranCentre);
-    ASSERT_EQ(records.size(), 35u);
-    for (std::size_t i = 0; i < records.size(); ++i) {
-        const bool call = i >= 5 && (i - 5) % 6 < 3;
-        EXPECT_EQ(MyNotification::isCall(records[i].alertBody), call) << records[i].alertBody;
-    }
-}
-
 // 1408 is leap and 1407 is not: on 1 July 2029, 11 Tir 1408, the rebuild starts from that
 // day's row and announces five days, none of them one day off.
 TEST_F(ShippedReminders, AfterTheOfficialLeapYearTheDaysStillMatchTheirTimes)
