@@ -202,26 +202,6 @@ TEST_F(MonthGridTest, TheLastMonthHeldIsReadFromTheDatabase)
     EXPECT_FALSE(empty.canStep(+1));
 }
 
-TEST_F(MonthGridTest, GridKeysMoveByADayOrAWeekWithinTheMonth)
-{
-    struct Case {
-        const char* opened;
-        int from;
-        int step;
-        int to;
-    };
-    // clang-format off
-    const Case cases[] = {
-        {"920101", 10, +1, 11}, {"920101", 10, -7, 3},  {"920101", 10, +7, 17},
-        {"920101", 31, +1, 31}, {"920101", 1, -1, 1},   {"920101", 3, -7, 3},
-        {"920101", 25, +7, 25}, {"920701", 30, +1, 30}, {"920701", 29, +1, 30},
-        {"921201", 29, +1, 29}, {"1081201", 29, +1, 30}, {"1081201", 24, +7, 24},
-    };
-    // clang-format on
-    for (const Case& c : cases)
-        EXPECT_EQ(open(c.opened).dayAfter(c.from, c.step), c.to) << c.opened << " " << c.from << " " << c.step;
-}
-
 TEST_F(MonthGridTest, SteppingIntoTodaysMonthSelectsTodayWhenTheSameDayWasSelected)
 {
     MonthGrid grid = open("920310");  // today is 10 Tir
