@@ -13,6 +13,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QIcon>
+#include <QImageReader>
 #include <QMenu>
 #include <QShortcut>
 #include <QSystemTrayIcon>
@@ -64,7 +66,11 @@ bool AppDelegate::didFinishLaunchingWithOptions()
     // The program ends by quit() alone (see there).
     QApplication::setQuitOnLastWindowClosed(false);
     if (QSystemTrayIcon::isSystemTrayAvailable()) {
-        makeTray();
+        // The tray's icon is decoded when it is made: after the first frame when there is one.
+        if (startsInBackground_)
+            makeTray();
+        else
+            trayAfterFirstFrame_ = true;
     } else {
         // A panel started after the program.
         auto* watch = new TrayWatch(this);
@@ -121,8 +127,36 @@ void AppDelegate::applicationWillTerminate()
 {
 }
 
+void AppDelegate::setIconFile(const QString& file)
+{
+    iconFile_ = file;
+}
+
+// The icon costs a decode of its largest image and the image plugins' loading: never before the
+// first frame.
+void AppDelegate::applyIcon()
+{
+    if (iconApplied_ || iconFile_.isEmpty())
+        return;
+    iconApplied_ = true;
+    QIcon icon;
+    icon.addFile(iconFile_, QImageReader(iconFile_, "png").size());
+    QApplication::setWindowIcon(icon);
+}
+
+void AppDelegate::afterFirstFrame()
+{
+    applyIcon();
+    if (trayAfterFirstFrame_) {
+        trayAfterFirstFrame_ = false;
+        makeTray();
+        emit trayAppeared();
+    }
+}
+
 void AppDelegate::makeTray()
 {
+    applyIcon();
     tray_ = new QSystemTrayIcon(QApplication::windowIcon(), this);
     tray_->setToolTip(QApplication::applicationDisplayName());
     auto* menu = new QMenu(window_.get());
@@ -209,6 +243,13 @@ bool AppDelegate::eventFilter(QObject* watched, QEvent* event)
     if (watched != window_.get())
         return QObject::eventFilter(watched, event);
     switch (event->type()) {
+    case QEvent::UpdateRequest:
+        // The first frame is being painted; what it does not show follows it.
+        if (!firstFrameSeen_) {
+            firstFrameSeen_ = true;
+            QMetaObject::invokeMethod(this, &AppDelegate::afterFirstFrame, Qt::QueuedConnection);
+        }
+        break;
     case QEvent::Close:
         if (quitting_)
             break;

@@ -47,6 +47,9 @@ public:
         tellInBackground_ = std::move(tell);
     }
     void showWindow();
+    // The window's and the tray's icon, set once the first frame is painted (or when a tray is
+    // made without a window).
+    void setIconFile(const QString& file);
     // The one way out of the program: the tray's exit, Ctrl+Q, the background notice's exit,
     // kavenda --quit, and without a tray the last close while no reminder is on.
     void quit();
@@ -71,6 +74,8 @@ protected:
 private:
     void makeTray();
     void restartForTray();
+    void applyIcon();
+    void afterFirstFrame();
     bool closeWithoutTray();
     void enterBackground();
     void enterForeground();
@@ -88,6 +93,10 @@ private:
     bool startsInBackground_ = false;
     bool toldInBackground_ = false;
     bool restartWanted_ = false;
+    bool firstFrameSeen_ = false;
+    bool trayAfterFirstFrame_ = false;
+    bool iconApplied_ = false;
+    QString iconFile_;
     bool restartsForTray_ = false;
     std::function<void(std::function<void()>)> tellInBackground_;
 };

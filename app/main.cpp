@@ -31,8 +31,6 @@
 #include "widgets/FocusRingStyle.h"
 
 #include <QApplication>
-#include <QIcon>
-#include <QImageReader>
 #include <QMessageBox>
 #include <QTimer>
 #include <QWidget>
@@ -66,14 +64,6 @@ bool canOpenWindow(const std::vector<char*>& qtArguments)
         return argument && (std::strcmp(argument, "-platform") == 0 || std::strcmp(argument, "--platform") == 0);
     });
     return platformGiven || named("QT_QPA_PLATFORM") || named("DISPLAY") || named("WAYLAND_DISPLAY");
-}
-
-// An icon decoded when first drawn: QIcon(file) decodes the whole image before the first frame.
-QIcon iconOnDemand(const QString& file)
-{
-    QIcon icon;
-    icon.addFile(file, QImageReader(file).size());
-    return icon;
 }
 
 // The window program's life; `restart` is set when it ended to start again in the background.
@@ -143,13 +133,12 @@ int runWindow(int argc, char** argv, bool& restart)
     QApplication::setApplicationDisplayName(QStringLiteral("کاوندا"));
     // Wayland docks match the window to the menu entry by this name.
     QApplication::setDesktopFileName(QStringLiteral(KAVENDA_APP_ID));
-    const QString icon = QString::fromStdString((paths.resourceFolder() / "kavenda.png").string());
-    QApplication::setWindowIcon(iconOnDemand(icon));
 
     ReminderSound sound(audio, paths, log, services.isPlayable);
     DesktopNotifier notifier(sound, paths);
     AppDelegate delegate(services, [&notifier](const NotificationRecord& record) { notifier.notify(record); });
     delegate.setStartsInBackground(line->background);
+    delegate.setIconFile(QString::fromStdString((paths.resourceFolder() / "kavenda.png").string()));
     delegate.setTellRunsInBackground([&notifier](std::function<void()> quitProgram) {
         notifier.notice(
             QStringLiteral(
