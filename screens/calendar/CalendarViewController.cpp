@@ -71,21 +71,6 @@ CalendarViewController::~CalendarViewController()
         slide_->stop();
 }
 
-QWidget* CalendarViewController::scrl() const
-{
-    return ui_->scrl;
-}
-
-QLabel* CalendarViewController::monthLbl() const
-{
-    return ui_->monthLbl;
-}
-
-QListWidget* CalendarViewController::tblEvents() const
-{
-    return ui_->tblEvents;
-}
-
 std::map<int, DayButton*> CalendarViewController::dayButtons() const
 {
     std::map<int, DayButton*> buttons;

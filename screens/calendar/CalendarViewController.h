@@ -56,9 +56,6 @@ public:
 
     const MonthGrid& grid() const { return grid_; }
     bool canChange() const { return grid_.canChange(); }
-    QWidget* scrl() const;
-    QLabel* monthLbl() const;
-    QListWidget* tblEvents() const;
     // The day buttons of the month in the grid's month (during a slide, the page slid to), by day.
     std::map<int, DayButton*> dayButtons() const;
 

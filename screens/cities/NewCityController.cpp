@@ -86,6 +86,8 @@ NewCityController::NewCityController(MyDB& db, QWidget* parent)
 {
     ui_->setupUi(this);
     setWindowTitle(QStringLiteral("شهر جدید"));
+    btnSave_->setObjectName(QStringLiteral("btnSave"));
+    btnBack_->setObjectName(QStringLiteral("btnBack"));
     ui_->failureLine->hide();
 
     QWidget* content = ui_->tblContent;
@@ -131,6 +133,7 @@ void NewCityController::buildNameSection(QWidget* content)
     addSection(content, nameSectionY, 2);
     QLabel* nameCaption = addCaption(content, QStringLiteral("نام شهر"), sectionX + 10, nameSectionY, rowHeight);
     nameField_ = new QLineEdit(content);
+    nameField_->setObjectName(QStringLiteral("nameField"));
     place(nameField_, 110, nameSectionY + 10, 185, 30);
     nameField_->setPlaceholderText(QStringLiteral("بدون نام"));
     // A screen reader names the field by its caption.
@@ -143,12 +146,14 @@ void NewCityController::buildNameSection(QWidget* content)
     connect(nameField_, &QLineEdit::editingFinished, this, &NewCityController::commitName);
 
     provinceRow_ = new QPushButton(content);
+    provinceRow_->setObjectName(QStringLiteral("provinceRow"));
     place(provinceRow_, sectionX, nameSectionY + rowHeight, sectionWidth, rowHeight);
     provinceRow_->setFlat(true);
     provinceRow_->setStyleSheet(QStringLiteral("QPushButton { border: none; background: transparent; }"
                                                "QPushButton:pressed { background: #d0dcee; }"));
     provinceRow_->setAccessibleName(addCaption(provinceRow_, QStringLiteral("استان"), 10, 0, rowHeight)->text());
     provinceValue_ = new QLabel(provinceRow_);
+    provinceValue_->setObjectName(QStringLiteral("provinceValue"));
     place(provinceValue_, 110, 0, 160, rowHeight);
     provinceValue_->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     provinceValue_->setStyleSheet(QStringLiteral("color: #385487;"));

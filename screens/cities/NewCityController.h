@@ -40,15 +40,10 @@ public:
 
     const NewCityDraft& draft() const { return draft_; }
     QScrollArea* tbl() const;
-    QLineEdit* nameField() const { return nameField_; }
-    QPushButton* provinceRow() const { return provinceRow_; }
-    QLabel* provinceValue() const { return provinceValue_; }
     QLabel* sectionHeader() const { return sectionHeader_; }
     FineSlider* slider(int index) const { return sliders_[static_cast<std::size_t>(index)]; }
     QLabel* valueLabel(int index) const { return valueLabels_[static_cast<std::size_t>(index)]; }
     QLabel* rowLabel(int index) const { return rowLabels_[static_cast<std::size_t>(index)]; }
-    QPushButton* btnSave() const { return btnSave_; }
-    QPushButton* btnBack() const { return btnBack_; }
     QLabel* failureLine() const;
 
     // Shows every value from the draft again.

@@ -39,7 +39,8 @@ CustomUITabBarController* OptionsViewController::tabBarControl()
     MyDB& db = services_.db;
     layout.citiesNavigation->push(new SelectionController(db, services_.rebuildReminders, services_.urls), false);
     auto* settings = new SettingController(db);
-    auto* sounds = new SoundsViewController(db, services_.paths, services_.audio, services_.isPlayable, services_.alerts);
+    auto* sounds =
+        new SoundsViewController(db, services_.paths, services_.audio, services_.isPlayable, services_.alerts);
     auto* history = new HistoryViewController(db, services_.paths, services_.log);
     showInStack(layout.settingsNavigation, settings);
     showInStack(layout.soundsNavigation, sounds);

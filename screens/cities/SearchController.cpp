@@ -37,21 +37,6 @@ SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
 
 SearchController::~SearchController() = default;
 
-QLineEdit* SearchController::searchBar() const
-{
-    return ui_->searchBar;
-}
-
-QListWidget* SearchController::tblResult() const
-{
-    return ui_->tblResult;
-}
-
-QPushButton* SearchController::cancelButton() const
-{
-    return ui_->cancelButton;
-}
-
 void SearchController::updateDataSource(const QString& text)
 {
     search_.updateDataSource(text.toStdString());

@@ -34,9 +34,6 @@ public:
 
     void updateDataSource(const QString& text);
     const CitySearch& search() const { return search_; }
-    QLineEdit* searchBar() const;
-    QListWidget* tblResult() const;
-    QPushButton* cancelButton() const;
 
 protected:
     void showEvent(QShowEvent* event) override;

@@ -95,6 +95,8 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
 {
     installAccessibleInterface<QListWidget, ListRowsAccessible>();
     setWindowTitle(QStringLiteral("شهرها"));
+    btnSearch_->setObjectName(QStringLiteral("btnSearch"));
+    btnDone_->setObjectName(QStringLiteral("btnDone"));
     setAutoFillBackground(true);
     QPalette page = palette();
     page.setColor(QPalette::Window, QColor(0xd6, 0xda, 0xe2));
@@ -112,6 +114,7 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
     roundCorners(tblScrollView_, cornerRadius);
 
     createNewCityTable_ = makeCreateRow(this);
+    createNewCityTable_->setObjectName(QStringLiteral("createNewCityTable"));
     connect(createNewCityTable_, &QListWidget::activated, this, &SelectionController::NewCityControllerShow);
 
     btnSearch_->hide();

@@ -44,10 +44,7 @@ public slots:
 public:
     const ChosenCities& cities() const { return cities_; }
     EditableCityList* tbl() const { return tbl_; }
-    QListWidget* createNewCityTable() const { return createNewCityTable_; }
     QScrollArea* tblScrollView() const { return tblScrollView_; }
-    QPushButton* btnDone() const { return btnDone_; }
-    QPushButton* btnSearch() const { return btnSearch_; }
 
 protected:
     void showEvent(QShowEvent* event) override;

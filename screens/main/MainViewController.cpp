@@ -75,11 +75,13 @@ void MainViewController::viewDidLoad()
     setPalette(colours);
 
     scrollView_ = new Pager(this);
+    scrollView_->setObjectName(QStringLiteral("scrollView"));
     scrollView_->setGeometry(0, 0, CityPages::pageWidth, CustomUIImageView::pageHeight + shift);
     scrollView_->setAccessibleName(QStringLiteral("شهرها"));
     connect(scrollView_, &Pager::didScroll, this, &MainViewController::scrollViewDidScroll);
 
     pageControl_ = new PageIndicator(this);
+    pageControl_->setObjectName(QStringLiteral("pageControl"));
     pageControl_->setPageText([](int page, int pages) {
         return QString::fromStdString(Utility::ConvertToPersian(format("صفحه %d از %d", {page + 1, pages})));
     });
@@ -168,8 +170,9 @@ void MainViewController::Bind()
 
 void MainViewController::showSelector()
 {
-    auto* options = new OptionsViewController({services_.db, services_.paths, services_.rebuildReminders, services_.log,
-                                               services_.audio, services_.isPlayable, services_.alerts, services_.urls});
+    auto* options =
+        new OptionsViewController({services_.db, services_.paths, services_.rebuildReminders, services_.log,
+                                   services_.audio, services_.isPlayable, services_.alerts, services_.urls});
     CustomUITabBarController* tabs = options->tabBarControl();
     tabs->setParentDelegate(this);
     presentation_.present(tabs, true);

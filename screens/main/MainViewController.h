@@ -68,8 +68,6 @@ public:
     const RowSet& datasource() const { return pages_.datasource(); }
     int pageCount() const { return pageCount_; }
     const DateTimePersian& localDtp() const { return *localDtp_; }
-    Pager* scrollView() const { return scrollView_; }
-    PageIndicator* pageControl() const { return pageControl_; }
 
 signals:
     // After each refresh, for whoever keeps count of the life events.

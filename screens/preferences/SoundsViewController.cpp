@@ -51,6 +51,7 @@ SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPl
 {
     installAccessibleInterface<QListWidget, ListRowsAccessible>();
     layout_->setupUi(this);
+    shippedButton_->setObjectName(QStringLiteral("shippedButton"));
     shippedButton_->setAccessibleName(shippedButton_->text());
     layout_->screenLayout->addWidget(shippedButton_);
     layout_->tbl->setIconSize(QSize(markSize, markSize));
@@ -68,11 +69,6 @@ SoundsViewController::~SoundsViewController() = default;
 QListWidget* SoundsViewController::tbl() const
 {
     return layout_->tbl;
-}
-
-QPushButton* SoundsViewController::ownFileButton() const
-{
-    return layout_->btnOwnFile;
 }
 
 void SoundsViewController::buildRows()

@@ -37,9 +37,7 @@ public:
     const SoundChoice& choice() const { return choice_; }
     QListWidget* tbl() const;
     QPushButton* saveButton() const { return saveButton_; }
-    QPushButton* ownFileButton() const;
     // "صدای برنامه": the checked row plays the program's recording again.
-    QPushButton* shippedButton() const { return shippedButton_; }
     // The file dialog of "انتخاب فایل…" while it is open.
     QFileDialog* fileDialog() const { return fileDialog_; }
 

@@ -73,8 +73,8 @@ struct CalendarFixture {
     static QStringList rows(const CalendarViewController& calendar)
     {
         QStringList texts;
-        for (int i = 0; i < calendar.tblEvents()->count(); ++i)
-            texts << calendar.tblEvents()->item(i)->text();
+        for (int i = 0; i < calendar.findChild<QListWidget*>(QStringLiteral("tblEvents"))->count(); ++i)
+            texts << calendar.findChild<QListWidget*>(QStringLiteral("tblEvents"))->item(i)->text();
         return texts;
     }
 
@@ -144,7 +144,7 @@ private slots:
         CalendarFixture c(farvardin20);
         CalendarViewController& calendar = c.open();
         QCOMPARE(c.f.presentation().depth(), 2);
-        QCOMPARE(calendar.monthLbl()->text(), QStringLiteral("فروردین ١٣٩٢"));
+        QCOMPARE(calendar.findChild<QLabel*>(QStringLiteral("monthLbl"))->text(), QStringLiteral("فروردین ١٣٩٢"));
         const auto buttons = calendar.dayButtons();
         QCOMPARE(buttons.size(), std::size_t(31));
         // Right to left: Thursday the 1st stands left of the wrapped 31st, on the same row.
@@ -165,7 +165,8 @@ private slots:
         QAccessibleInterface* selected = QAccessible::queryAccessibleInterface(buttons.at(20));
         QVERIFY(selected->state().checked);
         QVERIFY(!QAccessible::queryAccessibleInterface(buttons.at(19))->state().checked);
-        QCOMPARE(QAccessible::queryAccessibleInterface(calendar.monthLbl())->text(QAccessible::Name),
+        QCOMPARE(QAccessible::queryAccessibleInterface(calendar.findChild<QLabel*>(QStringLiteral("monthLbl")))
+                     ->text(QAccessible::Name),
                  QStringLiteral("فروردین ١٣٩٢"));
         QCOMPARE(c.rows(calendar),
                  QStringList{QStringLiteral(
@@ -190,7 +191,7 @@ private slots:
         setAnimationsEnabled(true);
         c.tap(calendar, "nextButton");
         QVERIFY(!calendar.canChange());
-        QCOMPARE(calendar.monthLbl()->text(), QStringLiteral("مرداد ١٣٩٢"));
+        QCOMPARE(calendar.findChild<QLabel*>(QStringLiteral("monthLbl"))->text(), QStringLiteral("مرداد ١٣٩٢"));
         c.tap(calendar, "nextButton");
         QCOMPARE(calendar.grid().month(), 4);
         QCOMPARE(calendar.findChildren<QLabel*>(QStringLiteral("monthPage")).size(), 2);
@@ -199,8 +200,8 @@ private slots:
         QTRY_COMPARE(calendar.findChildren<QLabel*>(QStringLiteral("monthPage")).size(), 1);
         // The page kept sits where the view shows it.
         const QLabel* page = calendar.findChild<QLabel*>(QStringLiteral("monthPage"));
-        QCOMPARE(page->mapTo(calendar.scrl(), QPoint(0, 0)), QPoint(0, 0));
-        QCOMPARE(page->size(), calendar.scrl()->size());
+        QCOMPARE(page->mapTo(calendar.findChild<QWidget*>(QStringLiteral("scrl")), QPoint(0, 0)), QPoint(0, 0));
+        QCOMPARE(page->size(), calendar.findChild<QWidget*>(QStringLiteral("scrl"))->size());
         QCOMPARE(calendar.dayButtons().size(), std::size_t(31));
         QCOMPARE(calendar.grid().month(), 4);
         QCOMPARE(c.checkedDays(calendar), QList<int>{});
@@ -209,7 +210,7 @@ private slots:
         // After the slide the next step is taken again.
         c.tap(calendar, "nextButton");
         QCOMPARE(calendar.grid().month(), 5);
-        QCOMPARE(calendar.monthLbl()->text(), QStringLiteral("شهریور ١٣٩٢"));
+        QCOMPARE(calendar.findChild<QLabel*>(QStringLiteral("monthLbl"))->text(), QStringLiteral("شهریور ١٣٩٢"));
         // Shahrivar starts on a Friday: its 30th wraps to the first row, rightmost.
         const auto shahrivar = calendar.dayButtons();
         QCOMPARE(shahrivar.at(30)->y(), shahrivar.at(1)->y());
@@ -233,7 +234,7 @@ private slots:
         QTest::mouseClick(main.findChild<QAbstractButton*>(QStringLiteral("calendarButton")), Qt::LeftButton);
         auto* again = qobject_cast<CalendarViewController*>(c.f.presentation().top());
         QVERIFY(again);
-        QCOMPARE(again->monthLbl()->text(), QStringLiteral("مرداد ١٣٩٢"));
+        QCOMPARE(again->findChild<QLabel*>(QStringLiteral("monthLbl"))->text(), QStringLiteral("مرداد ١٣٩٢"));
         QCOMPARE(c.checkedDays(*again), QList<int>{25});
 
         main.refresh();
@@ -390,7 +391,7 @@ private slots:
         CalendarFixture c(esfand1410);
         CalendarViewController& calendar = c.open();
         QCOMPARE(std::pair(calendar.grid().year(), calendar.grid().month()), std::pair(1410, 11));
-        QCOMPARE(calendar.monthLbl()->text(), QStringLiteral("اسفند ١٤١٠"));
+        QCOMPARE(calendar.findChild<QLabel*>(QStringLiteral("monthLbl"))->text(), QStringLiteral("اسفند ١٤١٠"));
         QAbstractButton* next = c.button(calendar, "nextButton");
         QVERIFY(!next->isEnabled());
         QVERIFY(c.button(calendar, "previousButton")->isEnabled());
@@ -411,8 +412,9 @@ private slots:
         CalendarFixture c(system.now());
         CalendarViewController& calendar = c.open();
         const DateTimePersian today = DateTimePersian::init(c.f.clock, c.f.calendar);
-        QVERIFY(calendar.monthLbl()->text().startsWith(
-            QString::fromStdString(DateTimePersian::getMonthName(today.month() - 1))));
+        QVERIFY(calendar.findChild<QLabel*>(QStringLiteral("monthLbl"))
+                    ->text()
+                    .startsWith(QString::fromStdString(DateTimePersian::getMonthName(today.month() - 1))));
         QCOMPARE(calendar.grid().year(), today.fullYear());
         QCOMPARE(c.checkedDays(calendar), QList<int>{today.day()});
         QCOMPARE(calendar.grid().todayBtn()->day, today.day());

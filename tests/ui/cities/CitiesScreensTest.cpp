@@ -36,8 +36,8 @@ constexpr int tehran = 32, isfahan = 33, kerman = 35, yazd = 36, kashan = 62, sh
 QStringList resultNames(const SearchController& search)
 {
     QStringList names;
-    for (int row = 0; row < search.tblResult()->count(); ++row)
-        names.append(search.tblResult()->item(row)->text());
+    for (int row = 0; row < search.findChild<QListWidget*>(QStringLiteral("tblResult"))->count(); ++row)
+        names.append(search.findChild<QListWidget*>(QStringLiteral("tblResult"))->item(row)->text());
     names.sort();
     return names;
 }
@@ -117,15 +117,15 @@ private slots:
         QVERIFY(f.tabs()->isTabBarHidden());
         QVERIFY(f.navigation()->isNavigationBarHidden());
         QCOMPARE(f.search()->typeID(), 0);
-        QCOMPARE(f.search()->tblResult()->count(), 6);
+        QCOMPARE(f.search()->findChild<QListWidget*>(QStringLiteral("tblResult"))->count(), 6);
 
-        QTest::mouseClick(f.search()->cancelButton(), Qt::LeftButton);
+        QTest::mouseClick(f.search()->findChild<QPushButton*>(QStringLiteral("cancelButton")), Qt::LeftButton);
         QCOMPARE(f.navigation()->top(), f.selection());
         QVERIFY(!f.tabs()->isTabBarHidden());
         QVERIFY(!f.navigation()->isNavigationBarHidden());
         QVERIFY(f.orderings().isEmpty());
-        QVERIFY(!f.selection()->btnDone()->isEnabled());
-        QVERIFY(f.selection()->btnSearch()->isEnabled());
+        QVERIFY(!f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnDone"))->isEnabled());
+        QVERIFY(f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnSearch"))->isEnabled());
         QVERIFY(f.tabs()->isTabEnabled(0));
         for (int tab = 1; tab <= 3; ++tab)
             QVERIFY2(!f.tabs()->isTabEnabled(tab), qPrintable(QString::number(tab)));
@@ -155,33 +155,36 @@ private slots:
         QTest::qWait(20);
         // with a city chosen the search waits to be asked
         QCOMPARE(f.navigation()->top(), f.selection());
-        QTest::mouseClick(f.selection()->btnSearch(), Qt::LeftButton);
+        QTest::mouseClick(f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnSearch")),
+                          Qt::LeftButton);
         SearchController* search = f.search();
         QVERIFY(search);
 
-        typeText(search->searchBar(), QStringLiteral("\u0643\u0631"));
+        typeText(search->findChild<QLineEdit*>(QStringLiteral("searchBar")), QStringLiteral("\u0643\u0631"));
         QCOMPARE(resultNames(*search), QStringList{QStringLiteral("کرمان (کرمان)")});
-        search->searchBar()->clear();
-        typeText(search->searchBar(), QStringLiteral("تهران"));
+        search->findChild<QLineEdit*>(QStringLiteral("searchBar"))->clear();
+        typeText(search->findChild<QLineEdit*>(QStringLiteral("searchBar")), QStringLiteral("تهران"));
         // a chosen city is no candidate
         QCOMPARE(resultNames(*search), QStringList{QStringLiteral("شهریار (تهران)")});
-        search->searchBar()->clear();
-        typeText(search->searchBar(), QStringLiteral("'"));
-        QCOMPARE(search->tblResult()->count(), 0);
-        search->searchBar()->clear();
-        typeText(search->searchBar(), QStringLiteral("\u0627\u0646"));
-        QCOMPARE(search->tblResult()->count(), 4);
+        search->findChild<QLineEdit*>(QStringLiteral("searchBar"))->clear();
+        typeText(search->findChild<QLineEdit*>(QStringLiteral("searchBar")), QStringLiteral("'"));
+        QCOMPARE(search->findChild<QListWidget*>(QStringLiteral("tblResult"))->count(), 0);
+        search->findChild<QLineEdit*>(QStringLiteral("searchBar"))->clear();
+        typeText(search->findChild<QLineEdit*>(QStringLiteral("searchBar")), QStringLiteral("\u0627\u0646"));
+        QCOMPARE(search->findChild<QListWidget*>(QStringLiteral("tblResult"))->count(), 4);
         f.saveScreenshot(QStringLiteral("cities-search.png"));
 
         const QString kermanName = QStringLiteral("کرمان (کرمان)");
-        const auto items = search->tblResult()->findItems(kermanName, Qt::MatchExactly);
+        const auto items =
+            search->findChild<QListWidget*>(QStringLiteral("tblResult"))->findItems(kermanName, Qt::MatchExactly);
         QCOMPARE(items.size(), 1);
-        QTest::mouseClick(search->tblResult()->viewport(), Qt::LeftButton, {},
-                          search->tblResult()->visualItemRect(items.first()).center());
+        QTest::mouseClick(
+            search->findChild<QListWidget*>(QStringLiteral("tblResult"))->viewport(), Qt::LeftButton, {},
+            search->findChild<QListWidget*>(QStringLiteral("tblResult"))->visualItemRect(items.first()).center());
         QCOMPARE(f.navigation()->top(), f.selection());
         QCOMPARE(f.orderings(), (QStringList{QStringLiteral("32:0"), QStringLiteral("35:2")}));
         QCOMPARE(f.listedNames(), (QStringList{QStringLiteral("تهران (تهران)"), kermanName}));
-        QVERIFY(f.selection()->btnDone()->isEnabled());
+        QVERIFY(f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnDone"))->isEnabled());
     }
 
     void addingTheFirstCityEnablesDoneAndThePreferenceTabs()
@@ -189,11 +192,12 @@ private slots:
         OptionsFixture f;
         f.open();
         QTRY_VERIFY(f.search());
-        typeText(f.search()->searchBar(), QStringLiteral("\u064A\u0632\u062F"));  // Arabic yeh
-        QCOMPARE(f.search()->tblResult()->count(), 1);
-        QTest::keyClick(f.search()->searchBar(), Qt::Key_Return);
+        typeText(f.search()->findChild<QLineEdit*>(QStringLiteral("searchBar")),
+                 QStringLiteral("\u064A\u0632\u062F"));  // Arabic yeh
+        QCOMPARE(f.search()->findChild<QListWidget*>(QStringLiteral("tblResult"))->count(), 1);
+        QTest::keyClick(f.search()->findChild<QLineEdit*>(QStringLiteral("searchBar")), Qt::Key_Return);
         QCOMPARE(f.orderings(), QStringList{QStringLiteral("36:1")});
-        QVERIFY(f.selection()->btnDone()->isEnabled());
+        QVERIFY(f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnDone"))->isEnabled());
         for (int tab = 1; tab <= 3; ++tab)
             QVERIFY(f.tabs()->isTabEnabled(tab));
     }
@@ -290,10 +294,11 @@ private slots:
             QCOMPARE(unseenStop(f.tabs()->tabText(tab)), QString());
         }
         f.clickTab(0);
-        QTest::mouseClick(f.selection()->btnSearch(), Qt::LeftButton);
+        QTest::mouseClick(f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnSearch")),
+                          Qt::LeftButton);
         QCOMPARE(unseenStop(QStringLiteral("search")), QString());
-        QTest::mouseClick(f.search()->cancelButton(), Qt::LeftButton);
-        QListWidget* create = f.selection()->createNewCityTable();
+        QTest::mouseClick(f.search()->findChild<QPushButton*>(QStringLiteral("cancelButton")), Qt::LeftButton);
+        QListWidget* create = f.selection()->findChild<QListWidget*>(QStringLiteral("createNewCityTable"));
         QTest::mouseClick(create->viewport(), Qt::LeftButton, {}, create->visualItemRect(create->item(0)).center());
         QCOMPARE(unseenStop(QStringLiteral("editor")), QString());
         QApplication::setStyle(QStringLiteral("Fusion"));
@@ -312,19 +317,19 @@ private slots:
         window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(window));
 
-        f.selection()->btnSearch()->setFocus();
-        QTest::keyClick(f.selection()->btnSearch(), Qt::Key_Return);
+        f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnSearch"))->setFocus();
+        QTest::keyClick(f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnSearch")), Qt::Key_Return);
         QVERIFY(f.search());
-        QTest::keyClick(f.search()->searchBar(), Qt::Key_Escape);
+        QTest::keyClick(f.search()->findChild<QLineEdit*>(QStringLiteral("searchBar")), Qt::Key_Escape);
         QCOMPARE(f.navigation()->top(), f.selection());
 
-        QListWidget* create = f.selection()->createNewCityTable();
+        QListWidget* create = f.selection()->findChild<QListWidget*>(QStringLiteral("createNewCityTable"));
         create->setFocus();
         create->setCurrentRow(0);
         QTest::keyClick(create, Qt::Key_Return);
         auto* editor = qobject_cast<NewCityController*>(f.navigation()->top());
         QVERIFY(editor);
-        QTest::keyClick(editor->nameField(), Qt::Key_Escape);
+        QTest::keyClick(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), Qt::Key_Escape);
         QCOMPARE(f.navigation()->top(), f.selection());
 
         f.selection()->tbl()->setFocus();
@@ -340,11 +345,12 @@ private slots:
         OptionsFixture f;
         f.choose({tehran});
         f.open();
-        QTest::mouseClick(f.selection()->btnSearch(), Qt::LeftButton);
+        QTest::mouseClick(f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnSearch")),
+                          Qt::LeftButton);
         SearchController* search = f.search();
         QVERIFY(search);
-        typeText(search->searchBar(), QStringLiteral("\u0627\u0646"));
-        QListWidget* results = search->tblResult();
+        typeText(search->findChild<QLineEdit*>(QStringLiteral("searchBar")), QStringLiteral("\u0627\u0646"));
+        QListWidget* results = search->findChild<QListWidget*>(QStringLiteral("tblResult"));
         QCOMPARE(results->count(), 4);
         results->setFocus();
         results->setCurrentItem(results->findItems(QStringLiteral("کرمان (کرمان)"), Qt::MatchExactly).value(0));
@@ -352,7 +358,7 @@ private slots:
         QCOMPARE(f.navigation()->top(), f.selection());
         QCOMPARE(f.orderings(), (QStringList{QStringLiteral("32:0"), QStringLiteral("35:2")}));
 
-        QListWidget* createRow = f.selection()->createNewCityTable();
+        QListWidget* createRow = f.selection()->findChild<QListWidget*>(QStringLiteral("createNewCityTable"));
         QVERIFY(createRow->focusPolicy() & Qt::TabFocus);
         createRow->setFocus(Qt::TabFocusReason);
         createRow->setCurrentRow(0);
@@ -360,7 +366,6 @@ private slots:
         QTRY_VERIFY(f.navigation()->top() != f.selection());
         QCOMPARE(f.navigation()->top()->metaObject()->className(), "kavenda::NewCityController");
     }
-
 };
 
 }  // namespace kavenda

@@ -38,7 +38,7 @@ NewCityController* editorOf(const OptionsFixture& f)
 // Opens the editor from the city list as a user does, with the create row.
 NewCityController* openEditor(OptionsFixture& f)
 {
-    QListWidget* createRow = f.selection()->createNewCityTable();
+    QListWidget* createRow = f.selection()->findChild<QListWidget*>(QStringLiteral("createNewCityTable"));
     QTest::mouseClick(createRow->viewport(), Qt::LeftButton, {},
                       createRow->visualItemRect(createRow->item(0)).center());
     return editorOf(f);
@@ -46,15 +46,17 @@ NewCityController* openEditor(OptionsFixture& f)
 
 void pickProvince(OptionsFixture& f, NewCityController* editor, const QString& typed)
 {
-    QTest::mouseClick(editor->provinceRow(), Qt::LeftButton);
+    QTest::mouseClick(editor->findChild<QPushButton*>(QStringLiteral("provinceRow")), Qt::LeftButton);
     SearchController* search = f.search();
     QVERIFY(search);
     QCOMPARE(search->typeID(), 1);
     QVERIFY(f.navigation()->isNavigationBarHidden());
-    typeText(search->searchBar(), typed);
-    QCOMPARE(search->tblResult()->count(), 1);
-    QTest::mouseClick(search->tblResult()->viewport(), Qt::LeftButton, {},
-                      search->tblResult()->visualItemRect(search->tblResult()->item(0)).center());
+    typeText(search->findChild<QLineEdit*>(QStringLiteral("searchBar")), typed);
+    QCOMPARE(search->findChild<QListWidget*>(QStringLiteral("tblResult"))->count(), 1);
+    QTest::mouseClick(search->findChild<QListWidget*>(QStringLiteral("tblResult"))->viewport(), Qt::LeftButton, {},
+                      search->findChild<QListWidget*>(QStringLiteral("tblResult"))
+                          ->visualItemRect(search->findChild<QListWidget*>(QStringLiteral("tblResult"))->item(0))
+                          .center());
     QCOMPARE(editorOf(f), editor);
     QVERIFY(!f.navigation()->isNavigationBarHidden());
 }
@@ -84,12 +86,13 @@ private slots:
         NewCityController* editor = openEditor(f);
         QVERIFY(editor);
 
-        editor->nameField()->setFocus();
-        typeText(editor->nameField(), QStringLiteral("\u0643\u0648\u064A"));  // Arabic kaf and yeh
-        QVERIFY(!editor->btnSave()->isEnabled());
-        QTest::keyClick(editor->nameField(), Qt::Key_Return);
+        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
+        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")),
+                 QStringLiteral("\u0643\u0648\u064A"));  // Arabic kaf and yeh
+        QVERIFY(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
+        QTest::keyClick(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), Qt::Key_Return);
         QCOMPARE(editor->draft().cityName(), std::string("\u0643\u0648\u064A"));
-        QVERIFY2(!editor->btnSave()->isEnabled(), "no province yet");
+        QVERIFY2(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(), "no province yet");
 
         // Keys move a whole minute; a drag stops anywhere and counts the minutes it has passed.
         QTest::keyClick(editor->slider(1), Qt::Key_Up);
@@ -105,12 +108,13 @@ private slots:
         QCOMPARE(editor->draft().difArray(), (std::array<int, 6>{0, 1, 0, 0, -2, 5}));
 
         pickProvince(f, editor, QStringLiteral("تهر"));
-        QCOMPARE(editor->provinceValue()->text(), persian("تهران"));
-        QCOMPARE(editor->nameField()->text(), QStringLiteral("\u0643\u0648\u064A"));
-        QVERIFY(editor->btnSave()->isEnabled());
+        QCOMPARE(editor->findChild<QLabel*>(QStringLiteral("provinceValue"))->text(), persian("تهران"));
+        QCOMPARE(editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->text(),
+                 QStringLiteral("\u0643\u0648\u064A"));
+        QVERIFY(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
         f.saveScreenshot(QStringLiteral("new-city-editor.png"));
 
-        QTest::mouseClick(editor->btnSave(), Qt::LeftButton);
+        QTest::mouseClick(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave")), Qt::LeftButton);
         QCOMPARE(f.navigation()->top(), f.selection());
         QVERIFY(!f.tabs()->isTabBarHidden());
         QCOMPARE(f.listedNames().last(), persian("کوی (تهران)"));
@@ -130,13 +134,13 @@ private slots:
         QVERIFY(QTest::qWaitForWindowActive(window));
         NewCityController* editor = openEditor(f);
         pickProvince(f, editor, QStringLiteral("یزد"));
-        editor->nameField()->setFocus();
-        typeText(editor->nameField(), QStringLiteral("مهریز"));
-        QVERIFY(!editor->btnSave()->isEnabled());
-        QTest::keyClick(editor->nameField(), Qt::Key_Tab);
-        QVERIFY(!editor->nameField()->hasFocus());
+        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
+        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral("مهریز"));
+        QVERIFY(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
+        QTest::keyClick(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), Qt::Key_Tab);
+        QVERIFY(!editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->hasFocus());
         QCOMPARE(editor->draft().cityName(), persian("مهریز").toStdString());
-        QVERIFY(editor->btnSave()->isEnabled());
+        QVERIFY(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
     }
 
     void onlyACommittedNameCounts()
@@ -146,20 +150,24 @@ private slots:
         f.open();
         NewCityController* editor = openEditor(f);
         QTest::keyClick(editor->slider(0), Qt::Key_Up);
-        QVERIFY2(!editor->btnSave()->isEnabled(), "a slider before any name");
+        QVERIFY2(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(),
+                 "a slider before any name");
         pickProvince(f, editor, QStringLiteral("یزد"));
-        QVERIFY2(!editor->btnSave()->isEnabled(), "a province alone");
+        QVERIFY2(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(),
+                 "a province alone");
 
-        editor->nameField()->setFocus();
-        typeText(editor->nameField(), QStringLiteral("مهریز"));
-        QVERIFY2(!editor->btnSave()->isEnabled(), "typed, not committed");
+        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
+        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral("مهریز"));
+        QVERIFY2(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(),
+                 "typed, not committed");
         QTest::keyClick(editor->slider(2), Qt::Key_Down);
-        QVERIFY2(editor->btnSave()->isEnabled(), "a slider commits the name");
+        QVERIFY2(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(),
+                 "a slider commits the name");
         QCOMPARE(editor->draft().cityName(), persian("مهریز").toStdString());
 
         // Typed on but not committed again: Save keeps the last committed name.
-        typeText(editor->nameField(), QStringLiteral(" نو"));
-        QTest::mouseClick(editor->btnSave(), Qt::LeftButton);
+        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral(" نو"));
+        QTest::mouseClick(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave")), Qt::LeftButton);
         QCOMPARE(f.listedNames().last(), persian("مهریز (یزد)"));
         QCOMPARE(f.countOf("SELECT T3 FROM tTimes WHERE StateID = 64"), -1);
     }
@@ -172,18 +180,18 @@ private slots:
         const int places = f.countOf("SELECT COUNT(*) FROM tStates");
         NewCityController* editor = openEditor(f);
         pickProvince(f, editor, QStringLiteral("کرم"));
-        QTest::mouseClick(editor->provinceRow(), Qt::LeftButton);
+        QTest::mouseClick(editor->findChild<QPushButton*>(QStringLiteral("provinceRow")), Qt::LeftButton);
         QVERIFY(f.search());
-        QTest::mouseClick(f.search()->cancelButton(), Qt::LeftButton);
+        QTest::mouseClick(f.search()->findChild<QPushButton*>(QStringLiteral("cancelButton")), Qt::LeftButton);
         QCOMPARE(editorOf(f), editor);
         QCOMPARE(editor->draft().provinceID(), 4);
-        QCOMPARE(editor->provinceValue()->text(), persian("کرمان"));
+        QCOMPARE(editor->findChild<QLabel*>(QStringLiteral("provinceValue"))->text(), persian("کرمان"));
 
-        editor->nameField()->setFocus();
-        typeText(editor->nameField(), QStringLiteral("بم"));
-        QTest::keyClick(editor->nameField(), Qt::Key_Return);
-        QVERIFY(editor->btnSave()->isEnabled());
-        QTest::mouseClick(editor->btnBack(), Qt::LeftButton);
+        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
+        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral("بم"));
+        QTest::keyClick(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), Qt::Key_Return);
+        QVERIFY(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
+        QTest::mouseClick(editor->window()->findChild<QPushButton*>(QStringLiteral("btnBack")), Qt::LeftButton);
         QCOMPARE(f.navigation()->top(), f.selection());
         QVERIFY(!f.tabs()->isTabBarHidden());
         QCOMPARE(f.countOf("SELECT COUNT(*) FROM tStates"), places);
@@ -198,10 +206,10 @@ private slots:
         QVERIFY(f.db().ExecuteNonQuery(
             "CREATE TRIGGER full BEFORE INSERT ON tTimes BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
         NewCityController* editor = openEditor(f);
-        editor->nameField()->setFocus();
-        typeText(editor->nameField(), QStringLiteral("بم"));
+        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
+        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral("بم"));
         pickProvince(f, editor, QStringLiteral("کرم"));
-        QTest::mouseClick(editor->btnSave(), Qt::LeftButton);
+        QTest::mouseClick(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave")), Qt::LeftButton);
         QCOMPARE(editorOf(f), editor);
         QVERIFY(editor->failureLine()->isVisible());
         QVERIFY(!editor->failureLine()->text().isEmpty());
@@ -229,7 +237,8 @@ private slots:
         QCOMPARE(editor->valueLabel(4)->text(), QStringLiteral("\u0667"));
 
         pickProvince(f, editor, QStringLiteral("اصف"));
-        QCOMPARE(QAccessible::queryAccessibleInterface(editor->provinceRow())->text(QAccessible::Description),
+        QCOMPARE(QAccessible::queryAccessibleInterface(editor->findChild<QPushButton*>(QStringLiteral("provinceRow")))
+                     ->text(QAccessible::Description),
                  persian("اصفهان"));
     }
 };

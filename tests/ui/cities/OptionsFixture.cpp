@@ -56,10 +56,9 @@ void OptionsFixture::choose(std::initializer_list<int> stateIds)
 
 void OptionsFixture::open(OptionServices services)
 {
-    auto* options = new OptionsViewController({db_, services.paths ? *services.paths : paths_,
-                                               [this] { reminders_.update(); }, services.log ? services.log : &log_,
-                                               services.audio, AudioModule::isPlayable, services.alerts,
-                                               services.urls});
+    auto* options = new OptionsViewController(
+        {db_, services.paths ? *services.paths : paths_, [this] { reminders_.update(); },
+         services.log ? services.log : &log_, services.audio, AudioModule::isPlayable, services.alerts, services.urls});
     tabs_ = options->tabBarControl();
     tabs_->setParentDelegate(this);
     presentation_->present(tabs_, true);

@@ -95,7 +95,7 @@ private slots:
         MyDB::initialize().ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(33, 1)");
         main.refresh();
         QCOMPARE(main.pageCount(), 2);
-        main.scrollView()->setContentOffset(0, false);
+        main.findChild<Pager*>(QStringLiteral("scrollView"))->setContentOffset(0, false);
         QSignalSpy refreshed(&main, &MainViewController::refreshed);
         const int updates = notifications.cancelCalls;
 
@@ -105,8 +105,8 @@ private slots:
         QTest::qWait(50);
         QCOMPARE(refreshed.count(), 0);
         QCOMPARE(notifications.cancelCalls, updates);
-        QCOMPARE(main.scrollView()->contentOffset(), 0.0);
-        QCOMPARE(main.pageControl()->currentPage(), 0);
+        QCOMPARE(main.findChild<Pager*>(QStringLiteral("scrollView"))->contentOffset(), 0.0);
+        QCOMPARE(main.findChild<PageIndicator*>(QStringLiteral("pageControl"))->currentPage(), 0);
     }
 
     void aReturnFromTheBackgroundUpdatesOnceAndRefreshesTwice()

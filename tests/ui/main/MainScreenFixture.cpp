@@ -79,7 +79,7 @@ MainViewController& MainScreenFixture::show()
 QList<CustomUIImageView*> MainScreenFixture::pages() const
 {
     QList<CustomUIImageView*> found;
-    for (QWidget* page : main_->scrollView()->pages())
+    for (QWidget* page : main_->findChild<Pager*>(QStringLiteral("scrollView"))->pages())
         found << qobject_cast<CustomUIImageView*>(page);
     return found;
 }

@@ -64,10 +64,10 @@ private slots:
         QCOMPARE(MainScreenFixture::texts(pages[1]).first(), QStringLiteral("اصفهان"));
         QCOMPARE(MainScreenFixture::texts(pages[2]).first(), QStringLiteral("تهران"));
         QCOMPARE(pages[2]->geometry(), QRect(640, 0, 320, 460));
-        QCOMPARE(main.scrollView()->contentWidth(), 960);
-        QCOMPARE(main.scrollView()->contentOffset(), 640.0);
-        QCOMPARE(main.pageControl()->numberOfPages(), 3);
-        QCOMPARE(main.pageControl()->currentPage(), 2);
+        QCOMPARE(main.findChild<Pager*>(QStringLiteral("scrollView"))->contentWidth(), 960);
+        QCOMPARE(main.findChild<Pager*>(QStringLiteral("scrollView"))->contentOffset(), 640.0);
+        QCOMPARE(main.findChild<PageIndicator*>(QStringLiteral("pageControl"))->numberOfPages(), 3);
+        QCOMPARE(main.findChild<PageIndicator*>(QStringLiteral("pageControl"))->currentPage(), 2);
         f.saveScreenshot(QStringLiteral("main-1392-04-10.png"));
     }
 
@@ -77,7 +77,7 @@ private slots:
         MainScreenFixture f(summerDay);
         f.choose({tehran, isfahan, mashhad});
         MainViewController& main = f.show();
-        PageIndicator* indicator = main.pageControl();
+        PageIndicator* indicator = main.findChild<PageIndicator*>(QStringLiteral("pageControl"));
         const int middle = indicator->height() / 2;
         const QList<QPair<QPoint, int>> clicks{
             {indicator->dotRect(0).center(), 0},
@@ -93,7 +93,7 @@ private slots:
         for (const auto& [at, page] : clicks) {
             QTest::mouseClick(window, Qt::LeftButton, {}, indicator->mapTo(&f.window(), at));
             QCOMPARE(indicator->currentPage(), page);
-            QTRY_COMPARE(main.scrollView()->contentOffset(), 320.0 * page);
+            QTRY_COMPARE(main.findChild<Pager*>(QStringLiteral("scrollView"))->contentOffset(), 320.0 * page);
         }
     }
 
@@ -103,7 +103,7 @@ private slots:
         f.choose({tehran, isfahan});
         MainViewController& main = f.show();
         const auto before = tracked(f.pages());
-        main.scrollView()->setContentOffset(0, false);
+        main.findChild<Pager*>(QStringLiteral("scrollView"))->setContentOffset(0, false);
 
         main.refresh();
         main.closeForm();
@@ -112,8 +112,8 @@ private slots:
         for (const auto& page : before)
             QVERIFY(page);
         // The rebuild still opens on the first city.
-        QCOMPARE(main.scrollView()->contentOffset(), 320.0);
-        QCOMPARE(main.pageControl()->currentPage(), 1);
+        QCOMPARE(main.findChild<Pager*>(QStringLiteral("scrollView"))->contentOffset(), 320.0);
+        QCOMPARE(main.findChild<PageIndicator*>(QStringLiteral("pageControl"))->currentPage(), 1);
 
         // Another day, or another list, makes new pages.
         main.closeCalendar(DateTimePersian::initWithPersianDate("920411", f.calendar), nullptr);
@@ -160,13 +160,13 @@ private slots:
         }
 
         auto* selection = tabs->findChild<SelectionController*>();
-        QTest::mouseClick(selection->btnSearch(), Qt::LeftButton);
+        QTest::mouseClick(selection->window()->findChild<QPushButton*>(QStringLiteral("btnSearch")), Qt::LeftButton);
         auto* search = tabs->findChild<SearchController*>();
         QVERIFY(search);
         walk(QStringLiteral("search"));
-        QTest::mouseClick(search->cancelButton(), Qt::LeftButton);
+        QTest::mouseClick(search->findChild<QPushButton*>(QStringLiteral("cancelButton")), Qt::LeftButton);
 
-        QListWidget* createRow = selection->createNewCityTable();
+        QListWidget* createRow = selection->findChild<QListWidget*>(QStringLiteral("createNewCityTable"));
         QTest::mouseClick(createRow->viewport(), Qt::LeftButton, {},
                           createRow->visualItemRect(createRow->item(0)).center());
         QVERIFY(tabs->findChild<NewCityController*>());
@@ -206,7 +206,7 @@ private slots:
         options->parentDelegate()->closeForm();
         QCOMPARE(f.presentation().top(), &main);
         QCOMPARE(main.pageCount(), 1);
-        QCOMPARE(main.pageControl()->numberOfPages(), 1);
+        QCOMPARE(main.findChild<PageIndicator*>(QStringLiteral("pageControl"))->numberOfPages(), 1);
         QCOMPARE(MainScreenFixture::texts(f.pages().first()).first(), QStringLiteral("اصفهان"));
     }
 
@@ -216,7 +216,7 @@ private slots:
         f.choose({tehran, varamin});
         MainViewController& main = f.show();
         QCOMPARE(main.pageCount(), 2);
-        QCOMPARE(main.pageControl()->numberOfPages(), 2);
+        QCOMPARE(main.findChild<PageIndicator*>(QStringLiteral("pageControl"))->numberOfPages(), 2);
         const QStringList texts = MainScreenFixture::texts(f.pages().first());
         QCOMPARE(texts.mid(0, 3), (QStringList{QStringLiteral("ورامین"), QString(), QStringLiteral("٠١ مرداد")}));
         QCOMPARE(texts.mid(3), QStringList(8, QString()));

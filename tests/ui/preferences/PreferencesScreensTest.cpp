@@ -210,13 +210,14 @@ private slots:
         auto* screen = f.showTab<SoundsViewController>(2);
         QVERIFY(screen);
         clickRow(screen->tbl(), 9);
-        QVERIFY2(!screen->ownFileButton()->isEnabled(), "the random row has no recording of its own");
+        QVERIFY2(!screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile"))->isEnabled(),
+                 "the random row has no recording of its own");
         clickRow(screen->tbl(), 3);
         const auto own = f.documents() / "sounds" / "3.wav";
 
         const auto text = f.documents() / "notes.wav";
         std::ofstream(text) << "no sound in here";
-        click(screen->ownFileButton());
+        click(screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile")));
         QTRY_VERIFY(screen->fileDialog());
         pickFile(screen->fileDialog(), text);
         QTRY_COMPARE_WITH_TIMEOUT(f.alerts.messages.size(), std::size_t{1}, mediaTimeout);
@@ -224,7 +225,7 @@ private slots:
         QVERIFY(!std::filesystem::exists(own));
 
         f.audio.calls.clear();
-        click(screen->ownFileButton());
+        click(screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile")));
         QTRY_VERIFY(screen->fileDialog());
         pickFile(screen->fileDialog(), wav(11));
         QTRY_VERIFY_WITH_TIMEOUT(std::filesystem::exists(own), mediaTimeout);
@@ -240,7 +241,7 @@ private slots:
         const auto large = f.documents() / "large.wav";
         std::filesystem::copy_file(wav(11), large);
         std::filesystem::resize_file(large, SoundChoice::largestOwnRecording + 1);
-        click(screen->ownFileButton());
+        click(screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile")));
         QTRY_VERIFY(screen->fileDialog());
         pickFile(screen->fileDialog(), large);
         QTRY_COMPARE_WITH_TIMEOUT(f.alerts.messages.size(), std::size_t{2}, mediaTimeout);
@@ -248,11 +249,11 @@ private slots:
         QCOMPARE(std::filesystem::file_size(own), std::filesystem::file_size(wav(11)));
 
         // Back to the program's recording.
-        QVERIFY(screen->shippedButton()->isEnabled());
-        click(screen->shippedButton());
+        QVERIFY(screen->findChild<QPushButton*>(QStringLiteral("shippedButton"))->isEnabled());
+        click(screen->findChild<QPushButton*>(QStringLiteral("shippedButton")));
         QVERIFY(!std::filesystem::exists(own));
         QCOMPARE(screen->tbl()->item(3)->text(), label);
-        QVERIFY(!screen->shippedButton()->isEnabled());
+        QVERIFY(!screen->findChild<QPushButton*>(QStringLiteral("shippedButton"))->isEnabled());
     }
 
     // A Save the database refuses is said under the screen; the screen keeps the change and its
@@ -438,7 +439,7 @@ private slots:
         click(occasions->switchOn());
         click(occasions->saveButton());
         f.clickTab(0);
-        click(f.selection()->btnDone());
+        click(f.selection()->window()->findChild<QPushButton*>(QStringLiteral("btnDone")));
         QCOMPARE(f.pendingAtClose.size(), 1);
 
         int calls = 0, iftar = 0, occasionCount = 0;
