@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Writes the source tables of resources/data into one C++ file as string constants, so that the
 # program computes the coming years from the same text the generator read. Script mode:
 #   cmake -DFOLDER=<resources/data> -DOUTPUT=<file.cpp> -P EmbedTables.cmake

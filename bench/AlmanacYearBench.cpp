@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // One Persian year of the almanac (31 centres, every day, the occasions) as the top-up
 // computes it, beside the floor it is measured against: reading the same year's rows back
 // from the database on an open connection.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The floor for the program's start: a plain Qt Widgets window of the same size with one
 // label, started and captured the way the program's --screenshot does it.
 #include <QApplication>

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // One single-row query through MyDB, which opens and closes the file on every call, beside
 // the same query on a connection held open: the ratio is the price of open-per-call.
 #include "data/MyDB.h"

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // One month switch of the calendar (its query through MyDB, which opens and closes the file, and
 // the grid of day buttons) beside the bare month query on a connection held open, the floor.
 #include "bench/OpenConnection.h"

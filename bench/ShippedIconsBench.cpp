@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The main screen's day query for one city, and a full reminder rebuild, on the generated
 // database: through MyDB (open and close on every call) beside the same work on a connection
 // held open, which is the floor.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The kavenda command. The terminal commands are served here, with the core, ICU and SQLite
 // alone; anything else becomes the window program, which loads Qt.
 #include "cli/CommandLine.h"

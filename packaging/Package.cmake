@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The Debian package: cpack -G DEB gives kavenda_<version>_<arch>.deb.
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME kavenda)

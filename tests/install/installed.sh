@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # installed.sh <check> <prefix> <build folder>: one check of Kavenda installed into <prefix>.
 #   install   installs the build into a fresh <prefix>, as `cmake --install` does for a person
 #   entries   the menu and autostart entries and the AppStream metadata pass their validators

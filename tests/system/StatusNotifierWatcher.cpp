@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A stand-in for a panel's status-notifier watcher with its host, for the system tests: it
 // registers on the session bus, says a host is there, and prints each item that registers.
 #include <QCoreApplication>

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # A panel whose status-notifier tray comes up after the program (an autostart before the
 # panel, a tray extension turned on later): the program, started in the background without a
 # tray, starts again and shows its icon there; a call still reaches the notification server.

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # A desktop without a tray (stock GNOME): a session bus and a notification server (dunst), no
 # tray. Started in the background the program shows no window and the calls still come with
 # their stop action; the window closed while reminders are on leaves it running (one notice

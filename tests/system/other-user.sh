@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Another local user cannot stand in for the program: the user nobody takes every name it can
 # in the shared temporary folder first (the fallback folder of our sockets, and sockets under
 # the names a start would look for). Our start still runs and announces, with or without

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Many first starts at once on an empty data folder (a login that runs the autostart while the
 # person opens the menu entry): one copy of the database, one running program, no error.
 # Offscreen, no display needed.

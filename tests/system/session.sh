@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Shared by the system tests, sourced after `set -euo pipefail`.
 
 # Runs the script again inside an X session (Xvfb and a session bus) unless it is in one.

@@ -1,3 +1,5 @@
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 """Drives the running program through the accessibility tree as a screen reader would: opens
 the options, the sound tab, presses the row "اذان مدینه" by its action and saves."""
 import sys

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # A screen reader's way through the program, over the real accessibility bus: the sound row
 # "اذان مدینه" pressed by its action is chosen, and Save stores it (tSetting.Item6 = 7).
 #

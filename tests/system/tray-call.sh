@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The program left in the tray of a real desktop session: a tray (trayer), a notification
 # server (dunst), a session bus. A minute before the evening call it starts in the background;
 # the call reaches dunst with its stop action, the action stops the sound, and a second start

@@ -1,4 +1,6 @@
 #!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # The program on Wayland (Debian's GNOME session is one): a headless weston compositor, the
 # program's window comes up on it (its surface committed with the window's title), a second
 # start hands over, and --screenshot works there too.

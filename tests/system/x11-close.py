@@ -1,4 +1,6 @@
 #!/usr/bin/env python3
+# SPDX-FileCopyrightText: 2026 Kavenda team
+# SPDX-License-Identifier: GPL-3.0-or-later
 # Asks an X window to close, as a window manager's close button does (WM_DELETE_WINDOW).
 #
 #   x11-close.py WINDOW_ID

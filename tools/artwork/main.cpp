@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // make_artwork <folder>: draws the images of the program into the folder.
 // make_artwork --icon <size> <file>: draws the application icon at one size, for the icon theme.
 // Runs without a display (QT_QPA_PLATFORM=offscreen).

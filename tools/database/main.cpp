@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // Writes the database file Icons from the text sources: the schema, the places, the times of
 // every centre and the calendar of occasions of the shipped years (the almanac's, year by year,
 // as the program computes the years after them), and the settings row.

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // make_sounds <folder>: writes the program's sounds: nine sung calls in different modes
 // (0.wav .. 8.wav), a beep (10.wav), an alarm, two chimes (11.wav, 12.wav) and the
 // announcement of the day's occasions (times.wav).

@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The month calendar driven through its buttons, opened from the main screen on the generated
 // database (1392 is the official calendar of that year).
 #include "app/PersianFont.h"

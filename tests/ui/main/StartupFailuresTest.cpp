@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 #include "tests/support/FileText.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/TempFolder.h"

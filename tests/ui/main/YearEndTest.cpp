@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The program's clock run over the end of the last year its working copy holds: the coming
 // years are computed off the window's thread, and the reminders go on into them without a gap.
 #include "app/HorizonKeeper.h"

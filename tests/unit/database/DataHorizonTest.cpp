@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The top-up of a working copy: years computed on the spot are the shipped years to the byte,
 // only what is missing is added, and only as far as the days ahead ask.
 #include "data/DataHorizon.h"

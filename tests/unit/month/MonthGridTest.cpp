@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The month grid on the generated database, whose 1392 is the official calendar of that year.
 #include "screens/calendar/MonthGrid.h"
 

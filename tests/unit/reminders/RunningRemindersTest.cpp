@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // The reminders of a program left running for days, on the generated database from 1 Azar 1405
 // (22 November 2026): the clocks are stepped as time passes, and the program looks as it does
 // when it runs: what is due goes out first, then the reminders are rebuilt if the watch says so.

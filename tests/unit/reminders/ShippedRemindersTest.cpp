@@ -1,3 +1,6 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
 // A rebuild on the generated database for 1 Azar 1405 (22 November 2026), with every reminder
 // on: the times announced are the stored ones, as no summer hour is kept any more.
 #include "reminders/MyNotification.h"
