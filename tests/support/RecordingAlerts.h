@@ -12,11 +12,15 @@ namespace kavenda::test {
 
 class RecordingAlerts final : public Alerts {
 public:
-    void show(const std::string&, const std::string& message, const std::string&) override
+    void show(const std::string& title, const std::string& message, const std::string& button) override
     {
         messages.push_back(message);
+        titles.push_back(title);
+        buttons.push_back(button);
     }
     std::vector<std::string> messages;
+    std::vector<std::string> titles;
+    std::vector<std::string> buttons;
 };
 
 }  // namespace kavenda::test

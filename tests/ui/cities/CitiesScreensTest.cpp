@@ -87,12 +87,6 @@ struct RecordingSearchDelegate final : SearchControllerDelegate {
     QStringList calls;
 };
 
-class RecordingUrlOpener final : public UrlOpener {
-public:
-    void open(const std::string& address) override { opened.push_back(address); }
-    std::vector<std::string> opened;
-};
-
 // Animations for one case, off again whatever happens in it.
 struct Animated {
     Animated() { setAnimationsEnabled(true); }

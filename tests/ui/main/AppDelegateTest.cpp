@@ -6,12 +6,12 @@
 #include "data/MyDB.h"
 #include "desktop/FixedScreen.h"
 #include "desktop/IcuPersianCalendar.h"
-#include "platform/Alerts.h"
 #include "reminders/MyNotification.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
+#include "tests/support/RecordingAlerts.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
@@ -26,19 +26,9 @@
 
 #include <algorithm>
 #include <functional>
-#include <tuple>
 
 namespace kavenda {
 namespace {
-
-class RecordingAlerts final : public Alerts {
-public:
-    void show(const std::string& title, const std::string& message, const std::string& button) override
-    {
-        shown.emplace_back(title, message, button);
-    }
-    std::vector<std::tuple<std::string, std::string, std::string>> shown;
-};
 
 // What the window manager tells a window that gains or loses the focus.
 void windowManagerSends(QWidget* window, QEvent::Type type)
@@ -145,15 +135,16 @@ private slots:
 
         windowManagerSends(delegate->window(), QEvent::WindowActivate);
         delegate->didReceiveLocalNotification(record);
-        QCOMPARE(alerts.shown.size(), std::size_t(1));
-        QCOMPARE(alerts.shown[0], std::make_tuple(std::string(), record.alertBody, std::string("Ok")));
+        QCOMPARE(alerts.messages, std::vector<std::string>{record.alertBody});
+        QCOMPARE(alerts.titles, std::vector<std::string>{std::string()});
+        QCOMPARE(alerts.buttons, std::vector<std::string>{"Ok"});
         QVERIFY(desktop.empty());
 
         windowManagerSends(delegate->window(), QEvent::WindowDeactivate);
         delegate->didReceiveLocalNotification(record);
         delegate->window()->hide();
         delegate->didReceiveLocalNotification(record);
-        QCOMPARE(alerts.shown.size(), std::size_t(1));
+        QCOMPARE(alerts.messages.size(), std::size_t(1));
         QCOMPARE(desktop.size(), std::size_t(2));
         QCOMPARE(desktop[0], record);
     }
@@ -224,7 +215,7 @@ private:
     IcuPersianCalendar calendar;
     test::RecordingNotificationService notifications;
     test::ScriptedRandom random{{0}};
-    RecordingAlerts alerts;
+    test::RecordingAlerts alerts;
     FixedScreen screen;
     std::vector<NotificationRecord> desktop;
     std::unique_ptr<AppDelegate> delegate;

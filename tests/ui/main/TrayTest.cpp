@@ -4,10 +4,10 @@
 #include "app/TrayStatus.h"
 #include "desktop/IcuPersianCalendar.h"
 #include "desktop/SingleInstance.h"
-#include "platform/AudioPlayer.h"
 #include "reminders/ReminderSound.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
+#include "tests/support/RecordingAudioPlayer.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/TehranTime.h"
@@ -22,15 +22,6 @@ namespace kavenda {
 namespace {
 
 using test::tehran;
-
-class SilentAudio final : public AudioPlayer {
-public:
-    bool open(const std::filesystem::path&) override { return true; }
-    void play() override { playing = true; }
-    void stop() override { playing = false; }
-    bool isPlaying() const override { return playing; }
-    bool playing = false;
-};
 
 QAction* actionNamed(QMenu* menu, const QString& text)
 {
@@ -56,8 +47,8 @@ private slots:
         FixedClock clock(tehran(2026, 11, 22, 14, 58));
         IcuPersianCalendar calendar;
         test::RecordingNotificationService notifications;
-        SilentAudio audio;
-        FixedPaths paths("/documents", "/resources");
+        test::RecordingAudioPlayer audio;
+        FixedPaths paths("/documents", KAVENDA_RESOURCE_DIR);
         test::RecordingLog log;
         ReminderSound sound(audio, paths, log);
 
