@@ -71,7 +71,7 @@ private slots:
         service.setDelivery([&delivered](const NotificationRecord& r) { delivered.push_back(r.alertBody); });
         service.schedule(record(std::chrono::seconds{1}, "in a second"));
         service.schedule(record(std::chrono::seconds{0}, "now"));
-        QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), std::size_t{1}, 500);
+        QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), std::size_t{1}, 3000);
         QCOMPARE(delivered.front(), std::string("now"));
         // The clock reaches the second record's moment; the timer set for it finds it due.
         clock.set(start + std::chrono::seconds{1});
@@ -92,14 +92,6 @@ private slots:
         QCOMPARE(deliveries, 0);
         QVERIFY(service.pending().empty());
         QCOMPARE(service.nextFireDate(), std::optional<Instant>());
-    }
-
-    void soundsAreDistinctMonoPcmWaves_data()
-    {
-        QTest::addColumn<QString>("name");
-        for (const char* name : {"0.wav", "1.wav", "2.wav", "3.wav", "4.wav", "5.wav", "6.wav", "7.wav", "8.wav",
-                                 "10.wav", "alarm.wav", "11.wav", "12.wav", "times.wav"})
-            QTest::newRow(name) << QString::fromLatin1(name);
     }
 
     // The multimedia module is loaded from the build tree on the first sound.
