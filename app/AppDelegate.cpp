@@ -3,6 +3,7 @@
 
 #include "app/AppDelegate.h"
 
+#include "app/AppTexts.h"
 #include "data/MyDB.h"
 #include "desktop/TrayWatch.h"
 #include "platform/Alerts.h"
@@ -164,8 +165,8 @@ void AppDelegate::makeTray()
     tray_->setToolTip(QApplication::applicationDisplayName());
     auto* menu = new QMenu(window_.get());
     menu->setLayoutDirection(Qt::RightToLeft);
-    connect(menu->addAction(QStringLiteral("نمایش")), &QAction::triggered, this, &AppDelegate::showWindow);
-    connect(menu->addAction(QStringLiteral("خروج")), &QAction::triggered, this, &AppDelegate::quit);
+    connect(menu->addAction(texts::app::show), &QAction::triggered, this, &AppDelegate::showWindow);
+    connect(menu->addAction(texts::app::quit), &QAction::triggered, this, &AppDelegate::quit);
     tray_->setContextMenu(menu);
     connect(tray_, &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)

@@ -3,6 +3,7 @@
 
 #include "app/StartupFailure.h"
 
+#include "app/AppTexts.h"
 #include "data/DatabaseCheck.h"
 #include "platform/Log.h"
 
@@ -18,7 +19,7 @@ int reportStartupProblem(const StartupProblem& problem, Log& log)
         QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
                         QString::fromStdString(problem.message), QMessageBox::NoButton);
         box.setLayoutDirection(Qt::RightToLeft);
-        box.addButton(QStringLiteral("باشه"), QMessageBox::AcceptRole);
+        box.addButton(texts::app::ok, QMessageBox::AcceptRole);
         box.exec();
     }
     return 1;

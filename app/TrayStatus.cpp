@@ -3,6 +3,7 @@
 
 #include "app/TrayStatus.h"
 
+#include "app/AppTexts.h"
 #include "platform/Clock.h"
 #include "platform/NotificationService.h"
 #include "reminders/NextReminderText.h"
@@ -20,7 +21,7 @@ TrayStatus::TrayStatus(QSystemTrayIcon* tray, ReminderSound& sound, const Notifi
     : QObject(parent), tray_(tray), sound_(sound), notifications_(notifications), clock_(clock), calendar_(calendar)
 {
     if (QMenu* menu = tray_ ? tray_->contextMenu() : nullptr) {
-        stop_ = new QAction(QStringLiteral("توقف اذان"), menu);
+        stop_ = new QAction(texts::app::stopCall, menu);
         stop_->setVisible(false);
         menu->insertAction(menu->actions().value(0), stop_);
         connect(stop_, &QAction::triggered, this, [this] {

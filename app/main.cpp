@@ -3,6 +3,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/AppServices.h"
+#include "app/AppTexts.h"
 #include "app/HorizonKeeper.h"
 #include "app/PersianFont.h"
 #include "app/PersianQtTexts.h"
@@ -25,8 +26,8 @@
 #include "desktop/QtNotificationService.h"
 #include "desktop/Replanning.h"
 #include "desktop/SingleInstance.h"
-#include "desktop/TerminationSignals.h"
 #include "desktop/StderrLog.h"
+#include "desktop/TerminationSignals.h"
 #include "reminders/MyNotification.h"
 #include "reminders/ReminderSound.h"
 #include "screens/main/MainViewController.h"
@@ -39,13 +40,13 @@
 #include <QWidget>
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
-#include <cerrno>
 #include <cstring>
-#include <unistd.h>
 #include <memory>
 #include <string>
+#include <unistd.h>
 #include <variant>
 #include <vector>
 
@@ -107,7 +108,7 @@ int runWindow(int argc, char** argv, bool& restart)
     DesktopUrlOpener urls;
     MessageBoxAlerts alerts;
     FixedScreen screen(line->tall);
-    const AppServices services{clock.get(), &calendar, &paths,  &log,    &notifications,           &random,
+    const AppServices services{clock.get(), &calendar, &paths,  &log,    &notifications,         &random,
                                &audio,      &urls,     &alerts, &screen, AudioModule::isPlayable};
     if (const auto problem = startWorkingCopy(paths, log))
         return reportStartupProblem(*problem, log);
@@ -133,7 +134,7 @@ int runWindow(int argc, char** argv, bool& restart)
     QApplication::setStyle(new FocusRingStyle);
     app.installEventFilter(new EnterPressesButtons(&app));
     usePersianQtTexts();
-    QApplication::setApplicationDisplayName(QStringLiteral("کاوندا"));
+    QApplication::setApplicationDisplayName(texts::app::displayName);
     // Wayland docks match the window to the menu entry by this name.
     QApplication::setDesktopFileName(QStringLiteral(KAVENDA_APP_ID));
 
@@ -143,10 +144,7 @@ int runWindow(int argc, char** argv, bool& restart)
     delegate.setStartsInBackground(line->background);
     delegate.setIconFile(QString::fromStdString((paths.resourceFolder() / "kavenda.png").string()));
     delegate.setTellRunsInBackground([&notifier](std::function<void()> quitProgram) {
-        notifier.notice(
-            QStringLiteral(
-                "کاوندا در پس‌زمینه می‌ماند تا وقت‌های اذان و یادآوری‌ها را اعلام کند."),
-            QStringLiteral("خروج"), std::move(quitProgram));
+        notifier.notice(texts::app::staysInBackground, texts::app::quit, std::move(quitProgram));
     });
     delegate.didFinishLaunchingWithOptions();
     alerts.setParent(delegate.window());
@@ -238,7 +236,8 @@ int main(int argc, char** argv)
     // Everything of the first life is closed and removed by now: its socket, its files, its locks.
     std::vector<char*> arguments(argv, argv + argc);
     char background[] = "--background";
-    if (std::none_of(arguments.begin(), arguments.end(), [](const char* a) { return std::strcmp(a, "--background") == 0; }))
+    if (std::none_of(arguments.begin(), arguments.end(),
+                     [](const char* a) { return std::strcmp(a, "--background") == 0; }))
         arguments.push_back(background);
     arguments.push_back(nullptr);
     ::execv("/proc/self/exe", arguments.data());

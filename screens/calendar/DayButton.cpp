@@ -3,6 +3,7 @@
 
 #include "screens/calendar/DayButton.h"
 
+#include "screens/calendar/CalendarTexts.h"
 #include "screens/calendar/DayFrame.h"
 #include "text/Format.h"
 #include "text/Utility.h"
@@ -60,7 +61,7 @@ QString accessibleNameOf(const DayCell& cell)
     QString name = QString::fromStdString(Utility::ConvertToPersian(format("%i", {cell.place.day})));
     if (cell.hasOccasion())
         for (const std::string& occasion : MonthGrid::occasions(cell.description))
-            name += QStringLiteral("، ") + QString::fromStdString(occasion);
+            name += texts::calendar::listSeparator + QString::fromStdString(occasion);
     return name;
 }
 
@@ -77,7 +78,7 @@ DayButton::DayButton(const DayCell& cell, const std::filesystem::path& resourceF
     setAccessibleName(accessibleNameOf(cell));
     // A holiday is told by its colour alone; a screen reader says it in words.
     if (cell.holiday)
-        setAccessibleDescription(tr("تعطیل"));
+        setAccessibleDescription(texts::calendar::holiday);
     setGeometry(DayFrame::x(cell.place.column), DayFrame::y(cell.place.row), DayFrame::width, DayFrame::height);
     setCursor(Qt::PointingHandCursor);
     // The grid is one stop of the focus chain; the calendar moves the stop with the arrows.

@@ -4,6 +4,7 @@
 #include "screens/cities/EditableCityList.h"
 
 #include "screens/cities/ChosenCities.h"
+#include "screens/cities/CitiesTexts.h"
 #include "screens/cities/EditingRowDelegate.h"
 
 #include <QKeyEvent>
@@ -48,7 +49,7 @@ void EditableCityList::setCities(const ChosenCities& cities)
         item->setTextAlignment(Qt::AlignVCenter | Qt::AlignLeading);
         if (ChosenCities::isDimmed(row))
             item->setForeground(QColor(Qt::gray));
-        item->setData(Qt::AccessibleDescriptionRole, QStringLiteral("حذف با Delete، جابجایی با Ctrl و بالا یا پایین"));
+        item->setData(Qt::AccessibleDescriptionRole, texts::cities::rowKeys);
     }
 }
 

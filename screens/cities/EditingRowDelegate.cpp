@@ -3,6 +3,7 @@
 
 #include "screens/cities/EditingRowDelegate.h"
 
+#include "screens/cities/CitiesTexts.h"
 #include "screens/cities/EditableCityList.h"
 #include "widgets/FocusRingStyle.h"
 
@@ -84,7 +85,7 @@ void EditingRowDelegate::paint(QPainter* painter, const QStyleOptionViewItem& op
         painter->setBrush(QColor(0xd0, 0x20, 0x20));
         painter->drawRoundedRect(button, 5, 5);
         painter->setPen(Qt::white);
-        painter->drawText(button, Qt::AlignCenter, QStringLiteral("حذف"));
+        painter->drawText(button, Qt::AlignCenter, texts::cities::remove);
     } else {
         const QRect grip = gripRect(row, direction);
         painter->setPen(QPen(QColor(0xa8, 0xa8, 0xa8), 2));

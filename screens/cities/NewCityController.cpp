@@ -3,6 +3,7 @@
 
 #include "screens/cities/NewCityController.h"
 
+#include "screens/cities/CitiesTexts.h"
 #include "screens/cities/CitySearch.h"
 #include "screens/cities/SearchController.h"
 #include "text/Utility.h"
@@ -32,14 +33,8 @@ constexpr int offsetSectionY = headerY + headerHeight;
 constexpr int contentHeight = offsetSectionY + NewCityController::offsetCount * rowHeight + 10;
 constexpr int labelWidth = 95;
 
-struct TimeRow {
-    const char* label;
-    int fontSize;
-};
-
-constexpr TimeRow timeRows[NewCityController::offsetCount] = {
-    {"اذان صبح", 17}, {"طلوع آفتاب", 16}, {"اذان ظهر", 17}, {"غروب آفتاب", 16}, {"اذان مغرب", 17}, {"نیمه شب شرعی", 12},
-};
+// The offsets' captions shrink to fit the longest.
+constexpr int captionPixels[NewCityController::offsetCount] = {17, 16, 17, 16, 17, 12};
 
 // Frames are given in a row the screen's width from its leading edge (the section's box is
 // inset within it); right to left they are mirrored, as the lists are.
@@ -84,11 +79,10 @@ QFont pixelFont(const QFont& base, int size, bool bold)
 
 NewCityController::NewCityController(MyDB& db, QWidget* parent)
     : QWidget(parent), ui_(std::make_unique<Ui::NewCityController>()), draft_(db), db_(db),
-      btnSave_(new QPushButton(QStringLiteral("ذخیره"), this)),
-      btnBack_(new QPushButton(QStringLiteral("بازگشت"), this))
+      btnSave_(new QPushButton(texts::cities::save, this)), btnBack_(new QPushButton(texts::cities::back, this))
 {
     ui_->setupUi(this);
-    setWindowTitle(QStringLiteral("شهر جدید"));
+    setWindowTitle(texts::cities::newCityTitle);
     btnSave_->setObjectName(QStringLiteral("btnSave"));
     btnBack_->setObjectName(QStringLiteral("btnBack"));
     ui_->failureLine->hide();
@@ -113,12 +107,12 @@ NewCityController::~NewCityController() = default;
 
 QString NewCityController::offsetLabel(int index)
 {
-    return QString::fromUtf8(timeRows[index].label);
+    return texts::cities::offsetCaptions[index];
 }
 
 QString NewCityController::headerTitle()
 {
-    return QStringLiteral("اختلاف تا مرکز استان(دقیقه)       ");
+    return texts::cities::offsetsHeader;
 }
 
 QScrollArea* NewCityController::tbl() const
@@ -134,11 +128,11 @@ QLabel* NewCityController::failureLine() const
 void NewCityController::buildNameSection(QWidget* content)
 {
     addSection(content, nameSectionY, 2);
-    QLabel* nameCaption = addCaption(content, QStringLiteral("نام شهر"), sectionX + 10, nameSectionY, rowHeight);
+    QLabel* nameCaption = addCaption(content, texts::cities::cityName, sectionX + 10, nameSectionY, rowHeight);
     nameField_ = new QLineEdit(content);
     nameField_->setObjectName(QStringLiteral("nameField"));
     place(nameField_, 110, nameSectionY + 10, 185, 30);
-    nameField_->setPlaceholderText(QStringLiteral("بدون نام"));
+    nameField_->setPlaceholderText(texts::cities::unnamed);
     // A screen reader names the field by its caption.
     nameCaption->setBuddy(nameField_);
     nameField_->setFrame(false);
@@ -154,7 +148,7 @@ void NewCityController::buildNameSection(QWidget* content)
     provinceRow_->setFlat(true);
     provinceRow_->setStyleSheet(QStringLiteral("QPushButton { border: none; background: transparent; }"
                                                "QPushButton:pressed { background: #d0dcee; }"));
-    provinceRow_->setAccessibleName(addCaption(provinceRow_, QStringLiteral("استان"), 10, 0, rowHeight)->text());
+    provinceRow_->setAccessibleName(addCaption(provinceRow_, texts::cities::province, 10, 0, rowHeight)->text());
     provinceValue_ = new QLabel(provinceRow_);
     provinceValue_->setObjectName(QStringLiteral("provinceValue"));
     place(provinceValue_, 110, 0, 160, rowHeight);
@@ -181,7 +175,7 @@ void NewCityController::buildOffsetSection(QWidget* content)
     for (int i = 0; i < offsetCount; ++i) {
         const int y = offsetSectionY + i * rowHeight;
         QLabel* caption = addCaption(content, offsetLabel(i), sectionX + 10, y, rowHeight);
-        caption->setFont(pixelFont(font(), timeRows[i].fontSize, true));
+        caption->setFont(pixelFont(font(), captionPixels[i], true));
         rowLabels_[static_cast<std::size_t>(i)] = caption;
 
         auto* value = new QLabel(content);
@@ -281,7 +275,7 @@ void NewCityController::save()
     if (!draft_.validate())
         return;
     if (!draft_.save()) {
-        ui_->failureLine->setText(QStringLiteral("شهر ذخیره نشد: پایگاه داده آن را نپذیرفت."));
+        ui_->failureLine->setText(texts::cities::cityNotSaved);
         ui_->failureLine->show();
         return;
     }

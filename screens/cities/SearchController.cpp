@@ -3,6 +3,7 @@
 
 #include "screens/cities/SearchController.h"
 
+#include "screens/cities/CitiesTexts.h"
 #include "screens/cities/SearchControllerDelegate.h"
 #include "ui_SearchController.h"
 #include "widgets/AccessibleFactory.h"
@@ -19,11 +20,11 @@ SearchController::SearchController(MyDB& db, int typeID, QWidget* parent)
     installAccessibleInterface<QListWidget, ListRowsAccessible>();
     ui_->setupUi(this);
     if (search_.isProvinceMode())
-        ui_->searchBar->setPlaceholderText(QStringLiteral("نام استان"));
+        ui_->searchBar->setPlaceholderText(texts::cities::provinceName);
     ui_->searchBar->setAccessibleName(ui_->searchBar->placeholderText());
     // The field's clear button is Qt's own and comes without a name.
     if (auto* clear = ui_->searchBar->findChild<QToolButton*>())
-        clear->setAccessibleName(QStringLiteral("پاک کردن"));
+        clear->setAccessibleName(texts::cities::clearField);
     connect(ui_->searchBar, &QLineEdit::textChanged, this, &SearchController::textDidChange);
     connect(ui_->cancelButton, &QPushButton::clicked, this, &SearchController::cancel);
     connect(new QShortcut(QKeySequence::Cancel, this), &QShortcut::activated, this, &SearchController::cancel);

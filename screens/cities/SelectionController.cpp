@@ -5,6 +5,7 @@
 
 #include "platform/UrlOpener.h"
 #include "screens/WriteFailureLine.h"
+#include "screens/cities/CitiesTexts.h"
 #include "screens/cities/CitySearch.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
@@ -72,7 +73,7 @@ QListWidget* makeCreateRow(QWidget* parent)
     auto* row = new QWidget;
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(14, 0, 12, 0);
-    const QString text = QStringLiteral("ایجاد شهر جدید");
+    const QString& text = texts::cities::createCity;
     item->setData(Qt::AccessibleTextRole, text);
     table->setAccessibleName(text);
     layout->addWidget(new QLabel(text, row));
@@ -93,11 +94,10 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
                                          QWidget* parent)
     : QWidget(parent), db_(db), urls_(urls), cities_(db, std::move(rebuildReminders)),
       tblScrollView_(new QScrollArea(this)), listHolder_(new QWidget), tbl_(new EditableCityList(listHolder_)),
-      btnSearch_(new QPushButton(QStringLiteral("جستجو"), this)),
-      btnDone_(new QPushButton(QStringLiteral("تمام"), this))
+      btnSearch_(new QPushButton(texts::cities::search, this)), btnDone_(new QPushButton(texts::cities::done, this))
 {
     installAccessibleInterface<QListWidget, ListRowsAccessible>();
-    setWindowTitle(QStringLiteral("شهرها"));
+    setWindowTitle(texts::cities::citiesTitle);
     btnSearch_->setObjectName(QStringLiteral("btnSearch"));
     btnDone_->setObjectName(QStringLiteral("btnDone"));
     setAutoFillBackground(true);
@@ -112,7 +112,7 @@ SelectionController::SelectionController(MyDB& db, std::function<void()> rebuild
     tblScrollView_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     tblScrollView_->setStyleSheet(QString::fromLatin1(scrollerStyle));
     tblScrollView_->setWidget(listHolder_);
-    tbl_->setAccessibleName(QStringLiteral("شهرهای انتخاب شده"));
+    tbl_->setAccessibleName(texts::cities::chosenCities);
     tblScrollView_->setAccessibleName(tbl_->accessibleName());
     roundCorners(tblScrollView_, cornerRadius);
 

@@ -6,6 +6,7 @@
 #include "screens/main/CityPages.h"
 #include "screens/main/CustomUIImageViewAccessible.h"
 #include "screens/main/DayPage.h"
+#include "screens/main/MainTexts.h"
 #include "screens/main/ShadowedLabel.h"
 #include "widgets/AccessibleFactory.h"
 
@@ -43,7 +44,8 @@ CustomUIImageView::CustomUIImageView(const Row& row, int index, DateTimePersian&
     for (int k = 1; k <= DayPage::timeCount; ++k)
         addLabel({35, timeRowTop + timeRowStep * (k - 1), 100, 40}, left, 25, 2, page.time(k))
             ->setAccessibleName(QString::fromStdString(page.timeReading(k)));
-    setAccessibleName(QString::fromStdString(page.name() + "، " + page.date()));
+    setAccessibleName(QString::fromStdString(page.name()) + texts::main::listSeparator
+                      + QString::fromStdString(page.date()));
 }
 
 void CustomUIImageView::paintEvent(QPaintEvent*)

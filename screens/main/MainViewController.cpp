@@ -9,6 +9,7 @@
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/OptionsViewController.h"
 #include "screens/main/CustomUIImageView.h"
+#include "screens/main/MainTexts.h"
 #include "text/Format.h"
 #include "text/Utility.h"
 #include "widgets/PageIndicator.h"
@@ -55,7 +56,7 @@ MainViewController::MainViewController(const Services& services, PresentationSta
     : QWidget(parent), services_(services), presentation_(presentation), pages_(services.db)
 {
     setObjectName(QStringLiteral("MainViewController"));
-    setAccessibleName(QStringLiteral("اوقات شرعی"));
+    setAccessibleName(texts::main::screenName);
     viewDidLoad();
     connect(&presentation_, &PresentationStack::topChanged, this, &MainViewController::presentationChanged);
 }
@@ -80,26 +81,26 @@ void MainViewController::viewDidLoad()
     scrollView_ = new Pager(this);
     scrollView_->setObjectName(QStringLiteral("scrollView"));
     scrollView_->setGeometry(0, 0, CityPages::pageWidth, CustomUIImageView::pageHeight + shift);
-    scrollView_->setAccessibleName(QStringLiteral("شهرها"));
+    scrollView_->setAccessibleName(texts::main::cities);
     connect(scrollView_, &Pager::didScroll, this, &MainViewController::scrollViewDidScroll);
 
     pageControl_ = new PageIndicator(this);
     pageControl_->setObjectName(QStringLiteral("pageControl"));
     pageControl_->setPageText([](int page, int pages) {
-        return QString::fromStdString(Utility::ConvertToPersian(format("صفحه %d از %d", {page + 1, pages})));
+        return QString::fromStdString(Utility::ConvertToPersian(format(texts::main::pageOf, {page + 1, pages})));
     });
     pageControl_->setGeometry(0, 425 + shift, 320, 36);
     connect(pageControl_, &PageIndicator::valueChanged, this, &MainViewController::pageAction);
 
     QAbstractButton* options = informationButton(this);
     options->setObjectName(QStringLiteral("optionsButton"));
-    options->setAccessibleName(QStringLiteral("گزینه ها"));
+    options->setAccessibleName(texts::main::options);
     options->setGeometry(290, 430 + shift, 18, 19);
     connect(options, &QAbstractButton::clicked, this, &MainViewController::showSelector);
 
     QAbstractButton* calendar = calendarButton(services_.paths.resourceFolder(), this);
     calendar->setObjectName(QStringLiteral("calendarButton"));
-    calendar->setAccessibleName(QStringLiteral("تقویم"));
+    calendar->setAccessibleName(texts::main::calendar);
     calendar->setGeometry(15, 425 + shift, 34, 32);
     connect(calendar, &QAbstractButton::clicked, this, &MainViewController::showCalendar);
 

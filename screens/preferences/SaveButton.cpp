@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "screens/preferences/SaveButton.h"
+#include "screens/preferences/PreferencesTexts.h"
 
 #include <QPushButton>
 
@@ -9,7 +10,7 @@ namespace kavenda {
 
 QPushButton* makeSaveButton(QWidget* parent)
 {
-    auto* button = new QPushButton(QStringLiteral("ذخیره"), parent);
+    auto* button = new QPushButton(texts::preferences::save, parent);
     button->setAccessibleName(button->text());
     button->setDefault(true);
     button->setEnabled(false);

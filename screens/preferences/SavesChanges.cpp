@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "screens/preferences/SavesChanges.h"
+#include "screens/preferences/PreferencesTexts.h"
 
 #include <QMessageBox>
 #include <QPushButton>
@@ -12,12 +13,11 @@ bool mayLeave(SavesChanges& screen, QWidget* parent)
 {
     if (!screen.hasUnsavedChange())
         return true;
-    QMessageBox box(QMessageBox::Question, QString(), QStringLiteral("تغییرات ذخیره شود؟"), QMessageBox::NoButton,
-                    parent);
+    QMessageBox box(QMessageBox::Question, QString(), texts::preferences::saveChanges, QMessageBox::NoButton, parent);
     box.setLayoutDirection(Qt::RightToLeft);
-    QPushButton* save = box.addButton(QStringLiteral("ذخیره"), QMessageBox::AcceptRole);
-    QPushButton* discard = box.addButton(QStringLiteral("دور انداختن"), QMessageBox::DestructiveRole);
-    box.addButton(QStringLiteral("انصراف"), QMessageBox::RejectRole);
+    QPushButton* save = box.addButton(texts::preferences::save, QMessageBox::AcceptRole);
+    QPushButton* discard = box.addButton(texts::preferences::discard, QMessageBox::DestructiveRole);
+    box.addButton(texts::preferences::cancel, QMessageBox::RejectRole);
     box.setDefaultButton(save);
     box.exec();
     if (box.clickedButton() == save)

@@ -6,6 +6,7 @@
 #include "data/MyDB.h"
 #include "screens/WriteFailureLine.h"
 #include "screens/preferences/Fade.h"
+#include "screens/preferences/PreferencesTexts.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SettingController.h"
 #include "widgets/Animations.h"
@@ -92,7 +93,7 @@ QWidget* SettingController::makeSliderRow(int index, QWidget* parent)
     number->setMinimumWidth(22);
     number->setAlignment(Qt::AlignCenter);
     line->addWidget(number);
-    line->addWidget(makeLabel(QStringLiteral("دقیقه قبل"), 15, row));
+    line->addWidget(makeLabel(texts::preferences::minutesBefore, 15, row));
     auto* slider = new QSlider(Qt::Horizontal, row);
     slider->setRange(0, ReminderSettings::sliderPositions - 1);
     slider->setPageStep(1);
@@ -131,7 +132,7 @@ void SettingController::discard()
 void SettingController::updateSliderName(int index)
 {
     sliders_.at(index)->setAccessibleName(
-        QStringLiteral("%1: %2 دقیقه قبل")
+        texts::preferences::leadSlider
             .arg(QString::fromStdString(ReminderSettings::label(index + ReminderSettings::firstWarning)))
             .arg(QString::fromStdString(settings_.leadText(index))));
 }

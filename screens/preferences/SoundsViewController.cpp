@@ -5,6 +5,7 @@
 
 #include "platform/Alerts.h"
 #include "screens/WriteFailureLine.h"
+#include "screens/preferences/PreferencesTexts.h"
 #include "screens/preferences/SaveButton.h"
 #include "ui_SoundsViewController.h"
 #include "widgets/AccessibleFactory.h"
@@ -50,7 +51,7 @@ SoundsViewController::SoundsViewController(MyDB& db, const Paths& paths, AudioPl
                                            Alerts* alerts, QWidget* parent)
     : QWidget(parent), layout_(std::make_unique<::Ui::SoundsViewController>()), choice_(db, paths, audio),
       isPlayable_(std::move(isPlayable)), alerts_(alerts), saveButton_(makeSaveButton(this)),
-      shippedButton_(new QPushButton(QStringLiteral("صدای برنامه"), this))
+      shippedButton_(new QPushButton(texts::preferences::shippedSound, this))
 {
     installAccessibleInterface<QListWidget, ListRowsAccessible>();
     layout_->setupUi(this);
@@ -129,8 +130,8 @@ void SoundsViewController::chooseOwnFile()
 {
     if (fileDialog_)
         return;
-    fileDialog_ = new QFileDialog(this, QStringLiteral("انتخاب فایل صدا"), QDir::homePath(),
-                                  QStringLiteral("صدا (*.wav *.ogg *.oga *.opus *.mp3 *.flac *.m4a);;همه فایل ها (*)"));
+    fileDialog_ = new QFileDialog(this, texts::preferences::chooseSoundFile, QDir::homePath(),
+                                  texts::preferences::soundFileFilter);
     fileDialog_->setFileMode(QFileDialog::ExistingFile);
     fileDialog_->setAttribute(Qt::WA_DeleteOnClose);
     // Checking the file waits for the media machinery: only once the dialog is gone.
@@ -173,13 +174,10 @@ void SoundsViewController::refuseOwnRecording(const QString& file, SoundChoice::
     if (!alerts_ || !row)
         return;
     const QString label = QString::fromStdString(SoundChoice::label(*row));
-    const QString reason = why == SoundChoice::OwnRecording::notPlayable ? QStringLiteral("صدایی نیست که پخش شود")
-        : why == SoundChoice::OwnRecording::tooLarge ? QStringLiteral("از ۵۰ مگابایت بزرگ‌تر است")
-                                                     : QStringLiteral("در پوشهٔ داده ها کپی نشد");
-    alerts_->show("",
-                  QStringLiteral("فایل «%1» %2. صدای «%3» تغییری نکرد.")
-                      .arg(QFileInfo(file).fileName(), reason, label)
-                      .toStdString(),
+    const QString reason = why == SoundChoice::OwnRecording::notPlayable ? texts::preferences::notPlayable
+        : why == SoundChoice::OwnRecording::tooLarge                     ? texts::preferences::tooLarge
+                                                                         : texts::preferences::notCopied;
+    alerts_->show("", texts::preferences::ownFileRefused.arg(QFileInfo(file).fileName(), reason, label).toStdString(),
                   "Ok");
 }
 
@@ -189,11 +187,9 @@ void SoundsViewController::useShippedRecording()
     if (!row)
         return;
     if (!choice_.useShippedRecording(*row) && alerts_)
-        alerts_->show("",
-                      QStringLiteral("صدای شما برای «%1» پاک نشد.")
-                          .arg(QString::fromStdString(SoundChoice::label(*row)))
-                          .toStdString(),
-                      "Ok");
+        alerts_->show(
+            "", texts::preferences::ownFileKept.arg(QString::fromStdString(SoundChoice::label(*row))).toStdString(),
+            "Ok");
     showCheckmark();
 }
 
