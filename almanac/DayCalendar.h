@@ -3,11 +3,11 @@
 
 #pragma once
 
-#include <unicode/calendar.h>
-
-#include <memory>
-
 namespace kavenda::almanac {
+
+struct CivilDate {
+    int year, month, day;
+};
 
 // The civil dates of one day in the two calendars the data needs, and the day's count.
 struct CalendarDay {
@@ -18,6 +18,14 @@ struct CalendarDay {
 
 // The Julian day number (the count of days that names a civil day) of a Gregorian date.
 long julianDayNumber(int year, int month, int day);
+CivilDate gregorianDate(long julianDayNumber);
+
+// The Persian calendar of Iran as the platforms' calendars (ICU, and so Qt and the desktops)
+// compute it: 31-day months to Shahrivar, 30-day months after, and a leap Esfand in 8 years of
+// every 33 (1403 and 1408 are leap, 1407 is not). A day past the end of a month or a month past
+// Esfand runs on into the following ones.
+long persianJulianDayNumber(int year, int month, int day);
+CivilDate persianDate(long julianDayNumber);
 
 // 0 for Sunday to 6 for Saturday.
 int weekday(long julianDayNumber);
@@ -28,13 +36,11 @@ inline constexpr int friday = 5;
 class DayCalendar {
 public:
     explicit DayCalendar(int firstPersianYear);
-    ~DayCalendar();
     CalendarDay current() const;
     void next();
 
 private:
-    std::unique_ptr<icu::Calendar> persian_;
-    std::unique_ptr<icu::Calendar> gregorian_;
+    long day_;
 };
 
 }  // namespace kavenda::almanac

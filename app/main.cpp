@@ -20,7 +20,7 @@
 #include "desktop/DesktopUrlOpener.h"
 #include "desktop/DeviceRandom.h"
 #include "desktop/FixedScreen.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "desktop/LazyAudioPlayer.h"
 #include "desktop/MessageBoxAlerts.h"
 #include "desktop/QtNotificationService.h"
@@ -99,7 +99,7 @@ int runWindow(int argc, char** argv, bool& restart)
     QCoreApplication::setApplicationName(QStringLiteral("kavenda"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KAVENDA_VERSION));
 
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     DesktopPaths paths(line->dataDir, KAVENDA_INSTALLED_RESOURCES);
     StderrLog log;
     QtNotificationService notifications(*clock);

@@ -6,7 +6,7 @@
 #include "bench/OpenConnection.h"
 #include "calendar/DateTimePersian.h"
 #include "data/MyDB.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "screens/calendar/MonthGrid.h"
 #include "tests/support/FixedPaths.h"
 #include "tests/support/RecordingLog.h"
@@ -31,7 +31,7 @@ struct Shipped {
 void MonthSwitch(benchmark::State& state)
 {
     Shipped shipped;
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     const DateTimePersian opened = DateTimePersian::initWithPersianDate("1050410", calendar);
     MonthGrid grid(shipped.db, calendar, opened, DateTimePersian::init(test::tehran(2026, 7, 1, 12), calendar));
     grid.viewDidLoad();

@@ -7,7 +7,7 @@
 #include "bench/OpenConnection.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "reminders/MyNotification.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
@@ -63,7 +63,7 @@ void ReminderRebuildThroughMyDB(benchmark::State& state)
 {
     Shipped shipped;
     FixedClock clock(test::tehran(2026, 11, 22, 0, 1));
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     test::RecordingNotificationService notifications;
     test::ScriptedRandom random({0});
     MyNotification scheduler(shipped.db, clock, calendar, notifications, random, shipped.log);

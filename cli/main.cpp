@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-// The kavenda command. The terminal commands are served here, with the core, ICU and SQLite
+// The kavenda command. The terminal commands are served here, with the core and SQLite
 // alone; anything else becomes the window program, which loads Qt.
 #include "cli/CommandLine.h"
 #include "cli/MonthCommand.h"
@@ -16,7 +16,7 @@
 #include "data/WorkingCopyStart.h"
 #include "desktop/DesktopPaths.h"
 #include "desktop/DeviceRandom.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "desktop/InstanceSocket.h"
 #include "desktop/JournalLog.h"
 #include "desktop/StderrLog.h"
@@ -107,7 +107,7 @@ int main(int argc, char** argv)
         std::fprintf(stderr, "kavenda: no Kavenda runs on %s\n", paths.documentsFolder().c_str());
         return 1;
     }
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     // What a command prints is what the person asked for; the log goes beside it only when asked.
     std::unique_ptr<Log> log = line.verbose ? std::unique_ptr<Log>(std::make_unique<StderrLog>())
                                             : std::unique_ptr<Log>(std::make_unique<JournalLog>());

@@ -3,7 +3,7 @@
 
 #include "desktop/Replanning.h"
 
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "platform/Clock.h"
 #include "platform/Log.h"
 
@@ -36,7 +36,7 @@ const char* nameOf(ReplanWatch::Change change)
 
 }  // namespace
 
-Replanning::Replanning(const Clock& clock, IcuPersianCalendar& calendar, Log& log, std::function<void()> deliverDue,
+Replanning::Replanning(const Clock& clock, SystemPersianCalendar& calendar, Log& log, std::function<void()> deliverDue,
                        std::function<void(ReplanWatch::Change)> replan, QObject* parent)
     : QObject(parent), clock_(clock), calendar_(calendar), log_(log), deliverDue_(std::move(deliverDue)),
       replan_(std::move(replan)), watch_(calendar)

@@ -14,7 +14,7 @@
 namespace kavenda {
 
 class Clock;
-class IcuPersianCalendar;
+class SystemPersianCalendar;
 class Log;
 
 // Tells a program that runs for weeks when to rebuild its reminders. It looks at the clocks at
@@ -26,7 +26,7 @@ class Replanning : public QObject {
 
 public:
     // What is due is delivered before a rebuild, which would drop what is only a little late.
-    Replanning(const Clock& clock, IcuPersianCalendar& calendar, Log& log, std::function<void()> deliverDue,
+    Replanning(const Clock& clock, SystemPersianCalendar& calendar, Log& log, std::function<void()> deliverDue,
                std::function<void(ReplanWatch::Change)> replan, QObject* parent = nullptr);
 
     void look();
@@ -44,7 +44,7 @@ private:
     void watchZoneFile();
 
     const Clock& clock_;
-    IcuPersianCalendar& calendar_;
+    SystemPersianCalendar& calendar_;
     Log& log_;
     std::function<void()> deliverDue_;
     std::function<void(ReplanWatch::Change)> replan_;

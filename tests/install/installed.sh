@@ -126,7 +126,7 @@ package)
     [[ -f $deb ]] || fail "no $deb: $(ls "$output")"
     depends=$(dpkg-deb -f "$deb" Depends)
     # From shlibdeps, and the run-time packages the libraries do not name.
-    for package in libc6 libqt6widgets6 libqt6multimedia6 libsqlite3-0 libicu72 qt6-qpa-plugins \
+    for package in libc6 libqt6widgets6 libqt6multimedia6 libsqlite3-0 qt6-qpa-plugins \
         gstreamer1.0-plugins-good fonts-farsiweb; do
         [[ $depends =~ (^|, )$package( |,|$) ]] || fail "Depends lacks $package: $depends"
     done

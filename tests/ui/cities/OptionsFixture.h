@@ -4,7 +4,7 @@
 #pragma once
 
 #include "data/MyDB.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "reminders/MyNotification.h"
 #include "screens/cities/SelectionControllerDelegate.h"
 #include "tests/support/FixedClock.h"
@@ -83,7 +83,7 @@ private:
     RecordingLog log_;
     MyDB db_;
     FixedClock clock_;
-    IcuPersianCalendar calendar_;
+    SystemPersianCalendar calendar_;
     ScriptedRandom random_{{0}};
     MyNotification reminders_;
     std::unique_ptr<QWidget> window_;

@@ -5,7 +5,7 @@
 #include "app/AppServices.h"
 #include "data/MyDB.h"
 #include "desktop/FixedScreen.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "reminders/MyNotification.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/FixedClock.h"
@@ -212,7 +212,7 @@ private:
     FixedPaths paths{temp.path() / "documents", temp.path() / "resources"};
     test::RecordingLog log;
     FixedClock clock{test::tehran(2013, 7, 1, 12, 0)};
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     test::RecordingNotificationService notifications;
     test::ScriptedRandom random{{0}};
     test::RecordingAlerts alerts;

@@ -4,7 +4,7 @@
 #pragma once
 
 #include "data/MyDB.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "platform/Screen.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
@@ -60,7 +60,7 @@ public:
     FixedPaths paths;
     RecordingLog log;
     FixedClock clock;
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     SettableScreen screen;
     std::optional<MyDB> db;
     bool shipped = false;

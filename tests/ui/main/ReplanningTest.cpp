@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "desktop/Replanning.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/TehranTime.h"
@@ -22,7 +22,7 @@ private slots:
     void aJumpDeliversWhatIsDueThenRebuildsOnce()
     {
         FixedClock clock(test::tehran(2026, 11, 22, 11, 0));
-        IcuPersianCalendar calendar;
+        SystemPersianCalendar calendar;
         test::RecordingLog log;
         std::vector<std::string> calls;
         Replanning replanning(

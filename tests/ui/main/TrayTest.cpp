@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/TrayStatus.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "desktop/SingleInstance.h"
 #include "reminders/ReminderSound.h"
 #include "tests/support/FixedClock.h"
@@ -45,7 +45,7 @@ private slots:
         menu.addAction(QStringLiteral("نمایش"));
         tray.setContextMenu(&menu);
         FixedClock clock(tehran(2026, 11, 22, 14, 58));
-        IcuPersianCalendar calendar;
+        SystemPersianCalendar calendar;
         test::RecordingNotificationService notifications;
         test::RecordingAudioPlayer audio;
         FixedPaths paths("/documents", KAVENDA_RESOURCE_DIR);

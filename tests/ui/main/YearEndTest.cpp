@@ -7,7 +7,7 @@
 #include "calendar/DateTimePersian.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "desktop/Replanning.h"
 #include "reminders/MyNotification.h"
 #include "tests/support/FixedClock.h"
@@ -54,7 +54,7 @@ private:
         return DateTimePersian::init(calendar.instantOf(year, month, day, 12, 0), calendar).getPersianDate();
     }
 
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
 
 private slots:
     void theRemindersRunOnIntoTheComputedYears()

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "calendar/DateTimePersian.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/support/TehranTime.h"
 #include "text/Format.h"
 
@@ -13,7 +13,7 @@ namespace {
 
 using test::tehran;
 
-const IcuPersianCalendar calendar;
+const SystemPersianCalendar calendar;
 
 struct ClockCase {
     int gy, gm, gd;

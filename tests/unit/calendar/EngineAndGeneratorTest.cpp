@@ -3,7 +3,7 @@
 
 #include "almanac/DayCalendar.h"
 #include "calendar/DateTimePersian.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/support/TehranTime.h"
 #include "text/Format.h"
 
@@ -18,7 +18,7 @@ namespace {
 // alike, or from some day on every screen reads the neighbouring day's times.
 TEST(EngineAndGenerator, AgreeOnEveryDayOfTheShippedAndTheComputedYears)
 {
-    const IcuPersianCalendar calendar;
+    const SystemPersianCalendar calendar;
     almanac::DayCalendar days(1392);
     int walked = 0;
     for (almanac::CalendarDay d = days.current(); d.persianYear <= 1440; days.next(), d = days.current()) {

@@ -3,7 +3,7 @@
 
 #include "cli/MonthCommand.h"
 
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
 #include "tests/support/RecordingLog.h"
@@ -34,7 +34,7 @@ protected:
 
     test::TempFolder temp;
     FixedPaths paths{data(), KAVENDA_RESOURCE_DIR};
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     FixedClock clock{Instant{}};
     test::RecordingLog log;
 };

@@ -5,7 +5,7 @@
 // only what is missing is added, and only as far as the days ahead ask.
 #include "data/DataHorizon.h"
 #include "data/Statements.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/unit/database/ShippedIcons.h"
 #include "text/Format.h"
 
@@ -84,7 +84,7 @@ TEST_F(DataHorizonTest, AddsOnlyWhatIsMissingAndOnlyAsFarAsAsked)
     EXPECT_TRUE(rowsAsText(db, 920101, 1101230) == shippedDays);
 
     // Both years whole: one events row a day in date order, every centre every day and one more.
-    const IcuPersianCalendar calendar;
+    const SystemPersianCalendar calendar;
     const int days =
         (calendar.dayOfYear(1411, 12, 30) == 366 ? 366 : 365) + (calendar.dayOfYear(1412, 12, 30) == 366 ? 366 : 365);
     EXPECT_EQ(scalar("SELECT COUNT(*) FROM tEvents WHERE Date > 1110000"), std::to_string(days));

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "data/IntValue.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/unit/database/ShippedIcons.h"
 #include "text/Utility.h"
 
@@ -33,7 +33,7 @@ TEST_F(IconsInvariants, PlacesAreTheProvincesAndTheirCentres)
 
 TEST_F(IconsInvariants, OneEventsRowForEveryDayInDateOrder)
 {
-    const IcuPersianCalendar calendar;
+    const SystemPersianCalendar calendar;
     const RowSet days = db.Execute("SELECT Date FROM tEvents");  // stored order, as the calendar reads it
     ASSERT_FALSE(days.empty());
     EXPECT_EQ(days.front().at("Date"), "920101");

@@ -6,7 +6,7 @@
 #include "calendar/DateTimePersian.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingLog.h"
@@ -53,7 +53,7 @@ protected:
     test::TempFolder temp;
     FixedPaths paths;
     test::RecordingLog log;
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     std::optional<MyDB> db;
     std::optional<CityPages> pages;
 };

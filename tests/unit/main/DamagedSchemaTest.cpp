@@ -3,7 +3,7 @@
 
 #include "calendar/DateTimePersian.h"
 #include "data/MyDB.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "reminders/MyNotification.h"
 #include "screens/cities/ChosenCities.h"
 #include "screens/cities/CitySearch.h"
@@ -40,7 +40,7 @@ protected:
     FixedPaths paths;
     test::RecordingLog log;
     FixedClock clock{test::tehran(2013, 5, 22, 0, 1)};
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     test::RecordingNotificationService notifications;
     test::ScriptedRandom random{{3, 7, 1}};
 };
@@ -93,7 +93,7 @@ TEST(DamagedSchemaPages, ARenamedCityNameKeepsEveryPage)
                   "ALTER TABLE tStates RENAME COLUMN Name TO Title;");
     test::RecordingLog log;
     MyDB db("Icons", paths, log);
-    const IcuPersianCalendar calendar;
+    const SystemPersianCalendar calendar;
     CityPages pages(db);
     pages.updateDataSource(DateTimePersian::initWithPersianDate("920301", calendar));
     ASSERT_EQ(pages.datasource().size(), 2u);

@@ -4,7 +4,7 @@
 #include "screens/main/DayPage.h"
 
 #include "calendar/DateTimePersian.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 
 #include <gtest/gtest.h>
 
@@ -22,7 +22,7 @@ Row tehranRow(std::string description = "")
 class DayPageTest : public ::testing::Test {
 protected:
     DateTimePersian on(std::string_view key) const { return DateTimePersian::initWithPersianDate(key, calendar); }
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
 };
 
 TEST_F(DayPageTest, OccasionShowsTheFirstOfSeveralWithPersianDigits)

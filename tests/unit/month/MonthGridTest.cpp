@@ -5,7 +5,7 @@
 #include "screens/calendar/MonthGrid.h"
 
 #include "calendar/DateTimePersian.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/support/TehranTime.h"
 #include "tests/unit/database/ShippedIcons.h"
 #include "text/Format.h"
@@ -50,7 +50,7 @@ protected:
         return days;
     }
 
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
 };
 
 TEST_F(MonthGridTest, EveryMonthOf1392StartsOnItsWeekdayAndShowsEachDayOnce)

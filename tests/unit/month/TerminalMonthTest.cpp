@@ -3,7 +3,7 @@
 
 #include "screens/calendar/TerminalMonth.h"
 
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/unit/database/ShippedIcons.h"
 
 #include <gtest/gtest.h>
@@ -34,7 +34,7 @@ std::vector<std::string> shown(std::vector<std::string> printed)
 
 class TerminalMonthTest : public test::ShippedIcons {
 protected:
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     TerminalMonth month{db, calendar};
 };
 

@@ -3,7 +3,7 @@
 
 #include "screens/calendar/TerminalYear.h"
 
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/unit/database/ShippedIcons.h"
 
 #include <gtest/gtest.h>
@@ -43,7 +43,7 @@ std::size_t columns(const std::string& line)
 
 class TerminalYearTest : public test::ShippedIcons {
 protected:
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     TerminalYear year{db, calendar};
 };
 

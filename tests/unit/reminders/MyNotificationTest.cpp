@@ -4,7 +4,7 @@
 #include "reminders/MyNotification.h"
 
 #include "data/MyDB.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
@@ -71,7 +71,7 @@ protected:
     FixedPaths paths;
     test::RecordingLog log;
     FixedClock clock{tehran(2013, 5, 22, 0, 1)};  // 1 Khordad 1392, 00:01
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     test::RecordingNotificationService notifications;
     test::ScriptedRandom random{{3, 7, 1}};
     std::optional<MyDB> db_;

@@ -3,7 +3,7 @@
 
 #include "reminders/NextReminderText.h"
 
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/support/TehranTime.h"
 
 #include <gtest/gtest.h>
@@ -39,7 +39,7 @@ TEST(NextReminderText, NamesTheCallItsTimeAndTheTimeLeft)
         {at, "کمتر از یک دقیقه"},
     };
     // clang-format on
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     for (const Case& c : cases)
         EXPECT_EQ(nextReminderText({reminder(at, evening)}, c.now, calendar),
                   "اذان مغرب به افق تهران، ١٧:١٣ (" + c.left + " دیگر)");
@@ -47,7 +47,7 @@ TEST(NextReminderText, NamesTheCallItsTimeAndTheTimeLeft)
 
 TEST(NextReminderText, TakesTheEarliestOnOneLine)
 {
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     const Instant now = tehran(2026, 11, 22, 6, 0);
     const std::vector<NotificationRecord> pending = {
         reminder(tehran(2026, 11, 22, 11, 50), "اذان ظهر به افق تهران"),

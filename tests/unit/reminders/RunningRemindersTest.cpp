@@ -8,7 +8,7 @@
 #include "reminders/ReplanWatch.h"
 
 #include "data/Statements.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "reminders/ReminderQueue.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/ScriptedRandom.h"
@@ -93,7 +93,7 @@ protected:
 
     FixedClock clock{tehran(2026, 11, 22, 0, 1)};
     std::chrono::steady_clock::duration monotonic{1h};
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     ReminderQueue queue;
     test::ScriptedRandom random{{0}};
     MyNotification reminders{db, clock, calendar, queue, random, log};

@@ -6,7 +6,7 @@
 #include "reminders/MyNotification.h"
 
 #include "data/Statements.h"
-#include "desktop/IcuPersianCalendar.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
@@ -47,7 +47,7 @@ protected:
     }
 
     FixedClock clock{tehran(2026, 11, 22, 0, 1)};
-    IcuPersianCalendar calendar;
+    SystemPersianCalendar calendar;
     test::RecordingNotificationService notifications;
     test::ScriptedRandom random{{0}};
 };
