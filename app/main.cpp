@@ -44,6 +44,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <malloc.h>
 #include <memory>
 #include <string>
 #include <unistd.h>
@@ -229,6 +230,9 @@ int runWindow(int argc, char** argv, bool& restart)
 
 int main(int argc, char** argv)
 {
+    // The worker threads (the data horizon's, Qt's and GLib's) allocate little; an allocation
+    // arena of their own would cost half a megabyte of a window that needs thirty.
+    mallopt(M_ARENA_MAX, 1);
     bool restart = false;
     const int status = runWindow(argc, argv, restart);
     if (!restart)
