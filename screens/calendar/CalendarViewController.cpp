@@ -8,6 +8,7 @@
 #include "ui_CalendarViewController.h"
 #include "widgets/Animations.h"
 #include "widgets/PresentationStack.h"
+#include "widgets/ResourcePixmap.h"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -167,7 +168,7 @@ QWidget* CalendarViewController::makePage(const MonthPage& page)
 {
     auto* view = new QLabel(content_);
     view->setObjectName(QStringLiteral("monthPage"));
-    view->setPixmap(QPixmap(QString::fromStdString((resourceFolder_ / "calendarBG.png").string())));
+    view->setPixmap(resourcePixmap(resourceFolder_ / "calendarBG.png"));
     view->resize(ui_->scrl->size());
     // The grid's stop comes after the arrows and before the buttons under the table.
     QWidget* before = ui_->nextButton;

@@ -9,10 +9,10 @@
 #include "text/Utility.h"
 #include "widgets/AccessibleFactory.h"
 #include "widgets/FocusRingStyle.h"
+#include "widgets/ResourcePixmap.h"
 #include "widgets/TapButtonAccessible.h"
 
 #include <QPainter>
-#include <QPixmapCache>
 
 namespace kavenda {
 
@@ -38,11 +38,7 @@ QPixmap image(const std::filesystem::path& folder, const char* name)
 {
     if (!name)
         return {};
-    const QString path = QString::fromStdString((folder / name).string());
-    QPixmap pixmap;
-    if (!QPixmapCache::find(path, &pixmap) && pixmap.load(path))
-        QPixmapCache::insert(path, pixmap);
-    return pixmap;
+    return resourcePixmap(folder / name);
 }
 
 // Today's ring stands for the day until it is picked; a picked day keeps its occasion star.

@@ -9,6 +9,7 @@
 #include "screens/main/MainTexts.h"
 #include "screens/main/ShadowedLabel.h"
 #include "widgets/AccessibleFactory.h"
+#include "widgets/ResourcePixmap.h"
 
 #include <QFontMetrics>
 #include <QPainter>
@@ -33,7 +34,7 @@ CustomUIImageView::CustomUIImageView(const Row& row, int index, DateTimePersian&
     // The pager gives every page its full height, so the page's own top is kept inside.
     top_ = tallScreen ? tallScreenTop : 0;
     setGeometry(CityPages::pageWidth * index, top_, CityPages::pageWidth, pageHeight);
-    background_.load(QString::fromStdString((resourceFolder / "MainView.bmp").string()));
+    background_ = resourcePixmap(resourceFolder / "MainView.ppm");
 
     // Fixed frames: the alignment must not follow the right-to-left layout direction.
     const Qt::Alignment left = Qt::AlignAbsolute | Qt::AlignLeft | Qt::AlignVCenter;

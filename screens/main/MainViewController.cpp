@@ -15,6 +15,7 @@
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
 #include "widgets/PresentationStack.h"
+#include "widgets/ResourcePixmap.h"
 
 #include <QPalette>
 #include <QToolButton>
@@ -42,7 +43,7 @@ QAbstractButton* calendarButton(const std::filesystem::path& resourceFolder, QWi
 {
     auto* button = new QToolButton(parent);
     button->setAutoRaise(true);
-    button->setIcon(QIcon(QString::fromStdString((resourceFolder / "calendarBtn.png").string())));
+    button->setIcon(QIcon(resourcePixmap(resourceFolder / "calendarBtn.png")));
     button->setIconSize(QSize(34, 32));
     button->setStyleSheet(
         QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"

@@ -9,6 +9,7 @@
 #include "screens/preferences/SaveButton.h"
 #include "text/Utility.h"
 #include "ui_HistoryViewController.h"
+#include "widgets/ResourcePixmap.h"
 #include "widgets/ToggleSwitch.h"
 
 #include <QCoreApplication>
@@ -28,7 +29,7 @@ HistoryViewController::HistoryViewController(MyDB& db, const Paths& paths, Log* 
     layout_->setupUi(this);
     // The frame sits over the picker and lets every press through to it.
     auto* frame = new QLabel(layout_->picker);
-    frame->setPixmap(QPixmap(QString::fromStdString((paths.resourceFolder() / "pickerRound.png").string())));
+    frame->setPixmap(resourcePixmap(paths.resourceFolder() / "pickerRound.png"));
     frame->setScaledContents(true);
     frame->setGeometry(layout_->picker->rect());
     frame->setAttribute(Qt::WA_TransparentForMouseEvents);

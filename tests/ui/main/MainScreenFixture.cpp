@@ -31,7 +31,7 @@ MainScreenFixture::MainScreenFixture(Instant now, int screenHeight, Data data)
         buildFixtureDatabase(paths.resourceFolder(), {"fixture-data.sql", "main-screen.sql"});
     }
     // The generated artwork, where the build has made it.
-    for (const char* image : {"MainView.bmp", "calendarBtn.png"}) {
+    for (const char* image : {"MainView.ppm", "calendarBtn.png"}) {
         const auto built = std::filesystem::path(KAVENDA_RESOURCE_DIR) / image;
         if (std::filesystem::exists(built))
             std::filesystem::copy_file(built, paths.resourceFolder() / image);
