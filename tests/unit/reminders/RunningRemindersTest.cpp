@@ -13,7 +13,7 @@
 #include "tests/support/FixedClock.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
-#include "tests/unit/database/ShippedIcons.h"
+#include "tests/unit/tools/database/ShippedIcons.h"
 #include "text/Format.h"
 
 #include <algorithm>

@@ -11,7 +11,7 @@
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
-#include "tests/unit/database/ShippedIcons.h"
+#include "tests/unit/tools/database/ShippedIcons.h"
 #include "text/Format.h"
 
 namespace kavenda {

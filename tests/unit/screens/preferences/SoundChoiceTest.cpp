@@ -6,7 +6,7 @@
 #include "reminders/SoundFiles.h"
 #include "tests/support/FileText.h"
 #include "tests/support/RecordingAudioPlayer.h"
-#include "tests/unit/preferences/PreferencesFixture.h"
+#include "tests/unit/screens/preferences/PreferencesFixture.h"
 
 #include <gtest/gtest.h>
 

@@ -4,7 +4,7 @@
 #include "screens/calendar/TerminalMonth.h"
 
 #include "desktop/IcuPersianCalendar.h"
-#include "tests/unit/database/ShippedIcons.h"
+#include "tests/unit/tools/database/ShippedIcons.h"
 
 #include <gtest/gtest.h>
 

@@ -5,7 +5,7 @@
 
 #include "screens/cities/ChosenCities.h"
 #include "screens/cities/SearchControllerDelegate.h"
-#include "tests/unit/cities/CitiesFixture.h"
+#include "tests/unit/screens/cities/CitiesFixture.h"
 
 #include <gtest/gtest.h>
 

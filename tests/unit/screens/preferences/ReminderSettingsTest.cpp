@@ -3,7 +3,7 @@
 
 #include "screens/preferences/ReminderSettings.h"
 
-#include "tests/unit/preferences/PreferencesFixture.h"
+#include "tests/unit/screens/preferences/PreferencesFixture.h"
 
 #include <gtest/gtest.h>
 

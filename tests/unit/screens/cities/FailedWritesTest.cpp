@@ -5,7 +5,7 @@
 #include "screens/preferences/OccasionTime.h"
 #include "screens/preferences/ReminderSettings.h"
 #include "screens/preferences/SoundChoice.h"
-#include "tests/unit/cities/CitiesFixture.h"
+#include "tests/unit/screens/cities/CitiesFixture.h"
 
 #include <functional>
 #include <string>

@@ -4,7 +4,7 @@
 #include "screens/cities/ChosenCities.h"
 
 #include "screens/cities/SelectionControllerDelegate.h"
-#include "tests/unit/cities/CitiesFixture.h"
+#include "tests/unit/screens/cities/CitiesFixture.h"
 
 #include <gtest/gtest.h>
 

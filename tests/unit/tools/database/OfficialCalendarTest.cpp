@@ -8,7 +8,7 @@
 #include "almanac/SourceTexts.h"
 #include "almanac/SunTable.h"
 #include "data/IntValue.h"
-#include "tests/unit/database/ShippedIcons.h"
+#include "tests/unit/tools/database/ShippedIcons.h"
 
 #include <algorithm>
 #include <map>

@@ -6,7 +6,7 @@
 #include "data/DataHorizon.h"
 #include "data/Statements.h"
 #include "desktop/IcuPersianCalendar.h"
-#include "tests/unit/database/ShippedIcons.h"
+#include "tests/unit/tools/database/ShippedIcons.h"
 #include "text/Format.h"
 
 namespace kavenda {

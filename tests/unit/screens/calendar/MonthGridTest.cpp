@@ -7,7 +7,7 @@
 #include "calendar/DateTimePersian.h"
 #include "desktop/IcuPersianCalendar.h"
 #include "tests/support/TehranTime.h"
-#include "tests/unit/database/ShippedIcons.h"
+#include "tests/unit/tools/database/ShippedIcons.h"
 #include "text/Format.h"
 
 #include <gtest/gtest.h>

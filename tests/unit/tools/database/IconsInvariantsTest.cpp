@@ -3,7 +3,7 @@
 
 #include "data/IntValue.h"
 #include "desktop/IcuPersianCalendar.h"
-#include "tests/unit/database/ShippedIcons.h"
+#include "tests/unit/tools/database/ShippedIcons.h"
 #include "text/Utility.h"
 
 namespace kavenda {

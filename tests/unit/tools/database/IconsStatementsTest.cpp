@@ -3,7 +3,7 @@
 
 #include "data/IntValue.h"
 #include "data/Statements.h"
-#include "tests/unit/database/ShippedIcons.h"
+#include "tests/unit/tools/database/ShippedIcons.h"
 #include "text/Format.h"
 #include "text/Utility.h"
 

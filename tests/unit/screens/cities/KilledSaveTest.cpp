@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "screens/cities/NewCityDraft.h"
-#include "tests/unit/cities/CitiesFixture.h"
+#include "tests/unit/screens/cities/CitiesFixture.h"
 
 #include <chrono>
 #include <csignal>
