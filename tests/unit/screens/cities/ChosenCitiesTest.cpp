@@ -6,8 +6,6 @@
 #include "screens/cities/SelectionControllerDelegate.h"
 #include "tests/unit/screens/cities/CitiesFixture.h"
 
-#include <gtest/gtest.h>
-
 namespace kavenda {
 namespace {
 
@@ -43,29 +41,24 @@ TEST_F(ChosenCitiesTest, ListsTheChosenCitiesWithTheirProvinceInAscendingOrderin
     EXPECT_EQ(cities.stateIdAt(1), 63);
 }
 
-TEST_F(ChosenCitiesTest, RemovingAShippedCityKeepsItsPlaceAndOffsetRow)
+// A shipped city (62) keeps its place and offset row; one of the user's own (63) loses both,
+// and its centre keeps its days.
+TEST_F(ChosenCitiesTest, RemovingACityDeletesOnlyAUserMadePlace)
 {
-    choose(62, 0);
-    choose(32, 1);
-    cities.updateDataSource();
-    cities.remove(0);
-    EXPECT_EQ(orderings(), (std::vector<std::string>{"32:1"}));
-    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 62"), 1);
-    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 62"), 1);
-    EXPECT_EQ(names(), (std::vector<std::string>{"تهران (تهران)"}));
-}
-
-TEST_F(ChosenCitiesTest, RemovingAUserMadeCityDeletesItsPlaceAndOffsetRow)
-{
-    choose(32, 0);
-    choose(63, 1);
-    const int centreDays = countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 32");
-    cities.updateDataSource();
-    cities.remove(1);
-    EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0"}));
-    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 63"), 0);
-    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 63"), 0);
-    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 32"), centreDays) << "the centre's days stay";
+    const int centreDays = count("SELECT COUNT(*) FROM tTimes WHERE StateID = 32");
+    for (const auto& [removed, rowsLeft] : {std::pair{62, 1}, std::pair{63, 0}}) {
+        exec("DELETE FROM tSelectedStates");
+        choose(32, 0);
+        choose(removed, 1);
+        cities.updateDataSource();
+        EXPECT_TRUE(cities.remove(1));
+        EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0"}));
+        EXPECT_EQ(names(), (std::vector<std::string>{"تهران (تهران)"}));
+        const std::string id = std::to_string(removed);
+        EXPECT_EQ(count("SELECT COUNT(*) FROM tStates WHERE StateID = " + id), rowsLeft) << removed;
+        EXPECT_EQ(count("SELECT COUNT(*) FROM tTimes WHERE StateID = " + id), rowsLeft) << removed;
+        EXPECT_EQ(count("SELECT COUNT(*) FROM tTimes WHERE StateID = 32"), centreDays);
+    }
 }
 
 TEST_F(ChosenCitiesTest, MovesRenumberEveryCityInListOrder)
@@ -79,10 +72,10 @@ TEST_F(ChosenCitiesTest, MovesRenumberEveryCityInListOrder)
         {0, 2, {"33:0", "35:1", "32:2", "36:3"}},
         {3, 1, {"32:0", "36:1", "33:2", "35:3"}},
         {1, 1, {"32:0", "33:1", "35:2", "36:3"}},
-        {1, 9, {"32:0", "35:1", "36:2", "33:3"}},
+        {1, 9, {"32:0", "35:1", "36:2", "33:3"}},  // a drop past the end lands on the last row
     };
     for (const Case& c : cases) {
-        ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tSelectedStates"));
+        exec("DELETE FROM tSelectedStates");
         choose(32, 1);
         choose(33, 2);
         choose(35, 5);
@@ -96,41 +89,23 @@ TEST_F(ChosenCitiesTest, MovesRenumberEveryCityInListOrder)
             EXPECT_EQ(std::to_string(cities.stateIdAt(row)) + ":" + std::to_string(row),
                       c.expected[static_cast<std::size_t>(row)]);
     }
-}
-
-TEST_F(ChosenCitiesTest, DropsPastTheEndLandOnTheLastRow)
-{
-    choose(32, 0);
-    choose(33, 1);
-    cities.updateDataSource();
-    EXPECT_EQ(cities.targetRow(5), 1);
     EXPECT_EQ(cities.targetRow(-1), 0);
-    EXPECT_EQ(cities.targetRow(1), 1);
-}
-
-TEST_F(ChosenCitiesTest, DoneAndThePreferenceTabsFollowTheCount)
-{
-    cities.updateDataSource();
-    EXPECT_FALSE(cities.canFinish());
-    EXPECT_FALSE(cities.preferencesEnabled());
-    choose(32, 0);
-    cities.updateDataSource();
-    EXPECT_TRUE(cities.canFinish());
-    EXPECT_TRUE(cities.preferencesEnabled());
-    cities.remove(0);
-    EXPECT_FALSE(cities.canFinish());
-    EXPECT_FALSE(cities.preferencesEnabled());
 }
 
 TEST_F(ChosenCitiesTest, TheSearchOpensByItselfOnlyOnTheFirstAppearanceWithoutCities)
 {
     EXPECT_TRUE(cities.appear());
+    EXPECT_FALSE(cities.canFinish());
+    EXPECT_FALSE(cities.preferencesEnabled());
     EXPECT_FALSE(cities.appear()) << "not again after the search was left without a choice";
 
     ChosenCities withCity(db, [] {});
     choose(32, 0);
     EXPECT_FALSE(withCity.appear());
-    ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tSelectedStates"));
+    EXPECT_TRUE(withCity.canFinish());
+    EXPECT_TRUE(withCity.preferencesEnabled());
+    withCity.remove(0);
+    EXPECT_FALSE(withCity.canFinish());
     EXPECT_FALSE(withCity.appear()) << "emptied later, the list never opens the search itself";
 }
 

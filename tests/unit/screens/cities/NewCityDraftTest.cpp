@@ -3,13 +3,9 @@
 
 #include "screens/cities/NewCityDraft.h"
 
-#include "screens/cities/ChosenCities.h"
 #include "screens/cities/CitySearch.h"
 #include "tests/unit/screens/cities/CitiesFixture.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
 #include <functional>
 #include <limits>
 
@@ -18,22 +14,17 @@ namespace {
 
 constexpr int tehranProvince = 1;
 constexpr int fars = 8;
-// The fixture's places end at 63, so the database numbers the next one 64.
-constexpr int newId = 64;
 
 class NewCityDraftTest : public test::CitiesFixture {
 protected:
     NewCityDraftTest() { exec("INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES (8, 'فارس', NULL, 0)"); }
-
-    void exec(const std::string& sql) { ASSERT_TRUE(db.ExecuteNonQuery(sql)) << sql; }
 
     // Every row the draft can write, as text, to compare before and after.
     std::string everyRow()
     {
         std::string all;
         for (const char* sql : {"SELECT StateID, Name, ParentID, IsCenter FROM tStates ORDER BY StateID",
-                                "SELECT StateID, Date, T1, T2, T3, T4, T5, T6 FROM tTimes WHERE Date = 14000101",
-                                "SELECT StateID, Ordering FROM tSelectedStates ORDER BY StateID"})
+                                "SELECT * FROM tTimes WHERE Date = 14000101", "SELECT * FROM tSelectedStates"})
             for (const Row& row : db.Execute(sql))
                 for (const auto& [column, value] : row)
                     all += column + "=" + value + ";";
@@ -45,41 +36,19 @@ protected:
 
 TEST_F(NewCityDraftTest, SaveFollowsTheCommittedNameAndTheProvince)
 {
+    // clang-format off
     const struct {
         const char* what;
         std::function<void(NewCityDraft&)> steps;
         bool enabled;
-        // clang-format off
     } cases[] = {
         {"opening", [](NewCityDraft&) {}, false},
-        {"a province alone", [](NewCityDraft& d) { d.setProvince(fars, "فارس"); }, false},
-        {"a slider before any name", [](NewCityDraft& d) {
-             d.commitName("");
-             d.setOffset(2, 4.5);
-         }, false},
         {"a name alone", [](NewCityDraft& d) { d.commitName("جهرم"); }, false},
-        {"a name, then a province", [](NewCityDraft& d) {
-             d.commitName("جهرم");
-             d.setProvince(fars, "فارس");
-         }, true},
-        {"a province, then a name", [](NewCityDraft& d) {
-             d.setProvince(fars, "فارس");
-             d.commitName("جهرم");
-         }, true},
-        {"a name of blanks", [](NewCityDraft& d) {
-             d.setProvince(fars, "فارس");
-             d.commitName("   ");
-         }, true},
+        {"a name, then a province", [](NewCityDraft& d) { d.commitName("جهرم"); d.setProvince(fars, "فارس"); }, true},
+        {"a province, then a name", [](NewCityDraft& d) { d.setProvince(fars, "فارس"); d.commitName("جهرم"); }, true},
+        {"a name of blanks", [](NewCityDraft& d) { d.setProvince(fars, "فارس"); d.commitName("   "); }, true},
         {"the name emptied again", [](NewCityDraft& d) {
-             d.setProvince(fars, "فارس");
-             d.commitName("جهرم");
-             d.commitName("");
-         }, false},
-        {"a province picked again", [](NewCityDraft& d) {
-             d.commitName("جهرم");
-             d.setProvince(fars, "فارس");
-             d.setProvince(tehranProvince, "تهران");
-         }, true},
+             d.setProvince(fars, "فارس"); d.commitName("جهرم"); d.commitName(""); }, false},
     };
     // clang-format on
     for (const auto& c : cases) {
@@ -91,19 +60,14 @@ TEST_F(NewCityDraftTest, SaveFollowsTheCommittedNameAndTheProvince)
 
 TEST_F(NewCityDraftTest, SliderPositionsAreFlooredToWholeMinutes)
 {
-    const struct {
-        double position;
-        int minutes;
-        // clang-format off
-    } cases[] = {
-        {0.0, 0},   {-0.2, -1},  {-0.001, -1}, {0.999, 0},   {9.7, 9},      {9.999, 9},
-        {10.0, 10}, {-10.0, -10}, {-9.5, -10}, {-3.0, -3},   {-10.4, -10},  {12.0, 10},
-        {std::numeric_limits<double>::quiet_NaN(), 0},
+    // clang-format off
+    const std::pair<double, int> cases[] = {
+        {0.0, 0},   {-0.2, -1},   {-0.001, -1}, {0.999, 0}, {9.999, 9}, {10.0, 10},
+        {-10.0, -10}, {-9.5, -10}, {-10.4, -10}, {12.0, 10}, {std::numeric_limits<double>::quiet_NaN(), 0},
     };
     // clang-format on
-    for (const auto& c : cases)
-        EXPECT_EQ(NewCityDraft::offsetAt(c.position), c.minutes) << c.position;
-
+    for (const auto& [position, minutes] : cases)
+        EXPECT_EQ(NewCityDraft::offsetAt(position), minutes) << position;
     EXPECT_EQ(draft.setOffset(4, -1.5), -2);
     EXPECT_EQ(draft.setOffset(6, 3.0), 0) << "there are six times only";
     EXPECT_EQ(draft.difArray(), (std::array<int, 6>{0, 0, 0, 0, -2, 0}));
@@ -133,26 +97,25 @@ TEST_F(NewCityDraftTest, SaveWritesThePlaceItsOffsetsAndItsTurnInThatOrder)
     std::vector<std::string> writes;
     for (const Row& row : db.Execute("SELECT what FROM writes ORDER BY seq"))
         writes.push_back(row.at("what"));
+    // The fixture's places end at 63, so the database numbers the new one 64.
     EXPECT_EQ(
         writes,
         (std::vector<std::string>{"tStates 64 جهرم 8 0", "tTimes 64 14000101 0 1 0 0 -2 5", "tSelectedStates 64 4"}));
-    EXPECT_EQ(db.ExecuteScaler("SELECT typeof(Date) || typeof(T1) || typeof(T5) FROM tTimes WHERE StateID = 64"),
+    EXPECT_EQ(scalar("SELECT typeof(Date) || typeof(T1) || typeof(T5) FROM tTimes WHERE StateID = 64"),
               "integerintegerinteger")
         << "the readers compare and add these as numbers";
 }
 
 TEST_F(NewCityDraftTest, NamesAreStoredWithPersianLettersAndQuotesAsTypedAndFoundAgain)
 {
+    // clang-format off
     const struct {
         const char* typed;
         const char* stored;
         const char* searched;
-        // clang-format off
     } cases[] = {
         {"كوي علي", "کوی علی", "\u0643\u0648\u064A"},      // Arabic kaf and yeh, typed and searched
         {"Shah's Town", "Shah's Town", "h's t"},            // the quote is part of the name
-        {"آق\u200Cقلا", "آق\u200Cقلا", "آققلا"},             // the non-joiner typed, not searched
-        {"بندرگز", "بندرگز", "بندر\u200Cگز"},                // and the other way round
     };
     // clang-format on
     for (const auto& c : cases) {
@@ -160,8 +123,8 @@ TEST_F(NewCityDraftTest, NamesAreStoredWithPersianLettersAndQuotesAsTypedAndFoun
         fresh.commitName(c.typed);
         fresh.setProvince(tehranProvince, "تهران");
         ASSERT_TRUE(fresh.save()) << c.typed;
-        const std::string id = db.ExecuteScaler("SELECT MAX(StateID) FROM tStates").value_or("");
-        EXPECT_EQ(db.ExecuteScaler("SELECT Name FROM tStates WHERE StateID = " + id), c.stored);
+        const std::string id = scalar("SELECT MAX(StateID) FROM tStates");
+        EXPECT_EQ(scalar("SELECT Name FROM tStates WHERE StateID = " + id), c.stored);
         // A city the user made and then took off the list only to find it again.
         exec("DELETE FROM tSelectedStates WHERE StateID = " + id);
         CitySearch search(db);
@@ -173,18 +136,15 @@ TEST_F(NewCityDraftTest, NamesAreStoredWithPersianLettersAndQuotesAsTypedAndFoun
 
 TEST_F(NewCityDraftTest, AFailedWriteTakesBackWhatWasWrittenAndAttachesNothingElsewhere)
 {
+    // clang-format off
     const struct {
         const char* what;
         const char* fault;
-        // clang-format off
     } cases[] = {
         {"the place refused", "CREATE TRIGGER fault BEFORE INSERT ON tStates BEGIN SELECT RAISE(ABORT, 'full'); END"},
-        {"the offset row refused",
-         "CREATE TRIGGER fault BEFORE INSERT ON tTimes BEGIN SELECT RAISE(ABORT, 'full'); END"},
-        {"an offset row left over under the new identifier",
-         "INSERT INTO tTimes VALUES(64, 14000101, 9, 9, 9, 9, 9, 9)"},
         {"the choice refused",
          "CREATE TRIGGER fault BEFORE INSERT ON tSelectedStates BEGIN SELECT RAISE(ABORT, 'full'); END"},
+        {"an offset row left over under the new identifier", "INSERT INTO tTimes VALUES(64, 14000101, 9, 9, 9, 9, 9, 9)"},
         {"a choice left over under the new identifier", "INSERT INTO tSelectedStates VALUES(64, 7)"},
     };
     // clang-format on
@@ -198,7 +158,6 @@ TEST_F(NewCityDraftTest, AFailedWriteTakesBackWhatWasWrittenAndAttachesNothingEl
         fresh.setOffset(0, -3);
         EXPECT_FALSE(fresh.save()) << c.what;
         EXPECT_EQ(everyRow(), before) << c.what;
-        EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE Name = 'جهرم'"), 0) << c.what;
         exec("DROP TRIGGER IF EXISTS fault");
         exec("DELETE FROM tTimes WHERE StateID = 64");
         exec("DELETE FROM tSelectedStates WHERE StateID = 64");
@@ -209,23 +168,6 @@ TEST_F(NewCityDraftTest, AFailedWriteTakesBackWhatWasWrittenAndAttachesNothingEl
     fresh.setProvince(fars, "فارس");
     EXPECT_TRUE(fresh.save());
     EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0", "64:2"}));
-}
-
-// The rest of the program reads the new city as one of its own: the main screen's page and the
-// reminders shift its centre's times, and taking it off the list removes it.
-TEST_F(NewCityDraftTest, RemovingTheNewCityFromTheListDeletesItsPlaceAndOffsets)
-{
-    draft.commitName("جهرم");
-    draft.setProvince(fars, "فارس");
-    ASSERT_TRUE(draft.save());
-    ChosenCities cities(db, [] {});
-    cities.updateDataSource();
-    ASSERT_EQ(cities.count(), 1);
-    EXPECT_EQ(cities.nameAt(0), "جهرم (فارس)");
-    cities.remove(0);
-    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 64"), 0);
-    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 64"), 0);
-    EXPECT_EQ(countOf("SELECT COUNT(*) FROM tStates WHERE StateID = 8"), 1);
 }
 
 }  // namespace

@@ -3,20 +3,18 @@
 
 #include "screens/preferences/OccasionTime.h"
 
-#include "tests/unit/screens/preferences/PreferencesFixture.h"
+#include "tests/support/FixtureDatabase.h"
 
-#include <gtest/gtest.h>
-
-#include <vector>
+#include <functional>
 
 namespace kavenda {
 namespace {
 
-class OccasionTimeTest : public test::PreferencesFixture {
+class OccasionTimeTest : public test::WorkingCopy {
 protected:
     void loadWith(const std::string& item7)
     {
-        store("Item7 = '" + item7 + "'");
+        exec("UPDATE tSetting SET Item7 = '" + item7 + "'");
         occasions.load();
     }
 
@@ -30,36 +28,43 @@ TEST_F(OccasionTimeTest, LoadsTheStoredTime)
         bool on;
         int hour, minute;
     };
-    const std::vector<Case> cases = {
-        {"0", false, 8, 0},
-        {"21:05", true, 21, 5},
-        {"7:5", true, 7, 5},
-        {"00:00", true, 0, 0},
-        // Without ":" it is off, as the reminders read it.
-        {"830", false, 8, 0},
-        {"", false, 8, 0},
-        {"31:75", true, 23, 59},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.item7);
+    // Without ":" it is off, as the reminders read it.
+    for (const Case& c : {Case{"0", false, 8, 0}, Case{"21:05", true, 21, 5}, Case{"7:5", true, 7, 5},
+                          Case{"830", false, 8, 0}, Case{"31:75", true, 23, 59}}) {
         loadWith(c.item7);
-        EXPECT_EQ(occasions.isOn(), c.on);
-        EXPECT_EQ(occasions.hour(), c.hour);
-        EXPECT_EQ(occasions.minute(), c.minute);
-        EXPECT_FALSE(occasions.saveEnabled());
+        EXPECT_EQ(occasions.isOn(), c.on) << c.item7;
+        EXPECT_EQ(occasions.hour(), c.hour) << c.item7;
+        EXPECT_EQ(occasions.minute(), c.minute) << c.item7;
+        EXPECT_FALSE(occasions.saveEnabled()) << c.item7;
     }
 }
 
-TEST_F(OccasionTimeTest, TurningOnWithoutTouchingThePickerStoresEightOClock)
+TEST_F(OccasionTimeTest, SavesTheTimeInTwoDigitsOrZeroForOff)
 {
-    loadWith("0");
+    struct Case {
+        const char* item7;
+        std::function<void(OccasionTime&)> edit;
+        const char* saved;
+    };
+    const Case cases[] = {
+        {"0", [](OccasionTime& o) { o.valueChanged(true); }, "08:00"},  // the picker untouched
+        {"7:5", [](OccasionTime& o) { o.valueChanged(false); o.valueChanged(true); }, "07:05"},
+        {"06:30", [](OccasionTime& o) { o.pickerValueChanged(6, 45); o.valueChanged(false); }, "0"},
+    };
+    for (const Case& c : cases) {
+        loadWith(c.item7);
+        log.lines.clear();
+        c.edit(occasions);
+        EXPECT_TRUE(occasions.saveEnabled()) << c.item7;
+        EXPECT_TRUE(occasions.save()) << c.item7;
+        EXPECT_EQ(scalar("SELECT Item7 FROM tSetting"), c.saved) << c.item7;
+        EXPECT_EQ(log.lines, std::vector<std::string>{c.saved});
+        EXPECT_FALSE(occasions.saveEnabled()) << c.item7;
+    }
+    // Saved off, the picker's last time is offered again, compared with the "0" just saved.
     occasions.valueChanged(true);
-    EXPECT_EQ(occasions.currentDate(), "08:00");
+    EXPECT_EQ(occasions.currentDate(), "06:45");
     EXPECT_TRUE(occasions.saveEnabled());
-    occasions.save();
-    EXPECT_EQ(stored("Item7"), "08:00");
-    EXPECT_EQ(log.lines, (std::vector<std::string>{"08:00"}));
-    EXPECT_FALSE(occasions.saveEnabled());
 }
 
 TEST_F(OccasionTimeTest, SaveIsEnabledExactlyWhileTheValueDiffersFromTheStoredOne)
@@ -73,32 +78,6 @@ TEST_F(OccasionTimeTest, SaveIsEnabledExactlyWhileTheValueDiffersFromTheStoredOn
     EXPECT_TRUE(occasions.saveEnabled());
     occasions.valueChanged(true);
     EXPECT_FALSE(occasions.saveEnabled()) << "off and on again at the stored time";
-}
-
-TEST_F(OccasionTimeTest, SavingOffStoresZeroAndKeepsThePickersTime)
-{
-    loadWith("06:30");
-    occasions.pickerValueChanged(6, 45);
-    occasions.valueChanged(false);
-    occasions.save();
-    EXPECT_EQ(stored("Item7"), "0");
-    EXPECT_EQ(log.lines, (std::vector<std::string>{"0"}));
-    occasions.valueChanged(true);
-    EXPECT_EQ(occasions.currentDate(), "06:45") << "the last time is offered again";
-    EXPECT_TRUE(occasions.saveEnabled()) << "compared with the \"0\" just saved";
-    occasions.save();
-    EXPECT_EQ(stored("Item7"), "06:45");
-}
-
-TEST_F(OccasionTimeTest, AnUnpaddedStoredTimeIsRewrittenInTwoDigits)
-{
-    loadWith("7:5");
-    occasions.valueChanged(false);
-    occasions.valueChanged(true);
-    EXPECT_EQ(occasions.currentDate(), "07:05");
-    EXPECT_TRUE(occasions.saveEnabled());
-    occasions.save();
-    EXPECT_EQ(stored("Item7"), "07:05");
 }
 
 }  // namespace

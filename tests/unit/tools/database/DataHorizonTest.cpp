@@ -6,7 +6,7 @@
 #include "data/DataHorizon.h"
 #include "data/Statements.h"
 #include "desktop/IcuPersianCalendar.h"
-#include "tests/unit/tools/database/ShippedIcons.h"
+#include "tests/support/FixtureDatabase.h"
 #include "text/Format.h"
 
 namespace kavenda {
@@ -29,15 +29,17 @@ std::string rowsAsText(MyDB& db, int from, int to)
     return text;
 }
 
-class DataHorizonTest : public test::ShippedIcons {
+class DataHorizonTest : public test::WorkingCopy {
 protected:
+    DataHorizonTest() : WorkingCopy({}) {}
+
     DataHorizon horizon{db.dbPath()};
 };
 
 TEST_F(DataHorizonTest, ComputedYearsAreTheShippedYearsToTheByte)
 {
-    ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tTimes WHERE Date BETWEEN 1050101 AND 1101230"));
-    ASSERT_TRUE(db.ExecuteNonQuery("DELETE FROM tEvents WHERE Date BETWEEN 1050101 AND 1101230"));
+    exec("DELETE FROM tTimes WHERE Date BETWEEN 1050101 AND 1101230");
+    exec("DELETE FROM tEvents WHERE Date BETWEEN 1050101 AND 1101230");
     ASSERT_EQ(scalar("SELECT MAX(Date) FROM tEvents"), "1041229");
 
     // On 1 Shahrivar 1409 the years to 1409 leave fewer than 400 days ahead; 1410 makes them enough.
@@ -58,11 +60,11 @@ TEST_F(DataHorizonTest, ComputedYearsAreTheShippedYearsToTheByte)
 TEST_F(DataHorizonTest, AddsOnlyWhatIsMissingAndOnlyAsFarAsAsked)
 {
     // What a person has made of the copy: a chosen centre, a city of their own, their settings.
-    ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertChosenCity, {tehranCentre, 1})));
-    ASSERT_TRUE(db.ExecuteNonQuery(formatSql(sql::insertCity, {"ورامین", 8})));
+    exec(formatSql(sql::insertChosenCity, {tehranCentre, 1}));
+    exec(formatSql(sql::insertCity, {"ورامین", 8}));
     ASSERT_TRUE(
         db.ExecuteNonQuery(formatSql(sql::insertOffsetRow, {63, "14000101", "-2", "-2", "-1", "0", "0", "-1"})));
-    ASSERT_TRUE(db.ExecuteNonQuery("UPDATE tSetting SET Item3 = 10, Item7 = '08:00'"));
+    exec("UPDATE tSetting SET Item3 = 10, Item7 = '08:00'");
     const auto own = [this] {
         std::string text;
         for (const char* sql : {"SELECT * FROM tSelectedStates", "SELECT * FROM tSetting", "SELECT * FROM tStates",
@@ -101,13 +103,6 @@ TEST_F(DataHorizonTest, AddsOnlyWhatIsMissingAndOnlyAsFarAsAsked)
     ASSERT_EQ(nowruz.size(), 31u);
     EXPECT_EQ(nowruz[0].at("Description"), "آغاز نوروز");
     EXPECT_EQ(nowruz[0].at("IsHoliday"), "1");
-}
-
-TEST(DataHorizonReport, NamesTheYearsAddedOnce)
-{
-    EXPECT_EQ(DataHorizon::report({}), "");
-    EXPECT_EQ(DataHorizon::report({1411}), "kavenda: added the times and occasions of 1411");
-    EXPECT_EQ(DataHorizon::report({1411, 1412, 1413}), "kavenda: added the times and occasions of 1411 to 1413");
 }
 
 }  // namespace

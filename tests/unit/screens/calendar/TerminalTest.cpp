@@ -2,16 +2,17 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "screens/calendar/TerminalMonth.h"
+#include "screens/calendar/TerminalYear.h"
 
 #include "desktop/IcuPersianCalendar.h"
-#include "tests/unit/tools/database/ShippedIcons.h"
-
-#include <gtest/gtest.h>
+#include "tests/support/FixtureDatabase.h"
 
 #include <sstream>
 
 namespace kavenda {
 namespace {
+
+const std::string mark = "\u200e";
 
 std::vector<std::string> lines(const std::string& text)
 {
@@ -25,17 +26,32 @@ std::vector<std::string> lines(const std::string& text)
 // The lines as a terminal without directional marks shows them.
 std::vector<std::string> shown(std::vector<std::string> printed)
 {
-    const std::string mark = "\u200e";
     for (std::string& line : printed)
         for (std::size_t at; (at = line.find(mark)) != std::string::npos;)
             line.erase(at, mark.size());
     return printed;
 }
 
-class TerminalMonthTest : public test::ShippedIcons {
+// Terminal columns: one for each character, escapes aside.
+std::size_t columns(const std::string& line)
+{
+    std::size_t count = 0;
+    for (std::size_t i = 0; i < line.size(); ++i) {
+        if (line[i] == '\x1b')
+            i = line.find('m', i);
+        else if ((static_cast<unsigned char>(line[i]) & 0xC0) != 0x80)
+            ++count;
+    }
+    return count;
+}
+
+class TerminalTest : public test::WorkingCopy {
 protected:
+    TerminalTest() : WorkingCopy({}) {}
+
     IcuPersianCalendar calendar;
     TerminalMonth month{db, calendar};
+    TerminalYear year{db, calendar};
 };
 
 TEST(TerminalMonthParse, TakesAPersianYearAndMonth)
@@ -49,7 +65,7 @@ TEST(TerminalMonthParse, TakesAPersianYearAndMonth)
         EXPECT_FALSE(TerminalMonth::parse(bad)) << bad;
 }
 
-TEST_F(TerminalMonthTest, PrintsFarvardin1392WithItsHolidays)
+TEST_F(TerminalTest, PrintsFarvardin1392WithItsHolidays)
 {
     const std::optional<std::string> printed = month.print({1392, 1}, false);
     ASSERT_TRUE(printed);
@@ -77,7 +93,7 @@ TEST_F(TerminalMonthTest, PrintsFarvardin1392WithItsHolidays)
     EXPECT_EQ(printed->find('\x1b'), std::string::npos);
 }
 
-TEST_F(TerminalMonthTest, ColoursHolidaysAndFridaysOnlyWhenAsked)
+TEST_F(TerminalTest, ColoursHolidaysAndFridaysOnlyWhenAsked)
 {
     const std::string red = "\x1b[31m";
     const std::string plain = "\x1b[0m";
@@ -92,11 +108,10 @@ TEST_F(TerminalMonthTest, ColoursHolidaysAndFridaysOnlyWhenAsked)
 
 // Every cell of the grid, weekday or day, opens with a left-to-right mark, three columns wide: 1
 // Azar 1405, a Sunday, stands under "ی" whether or not the terminal reorders the line.
-TEST_F(TerminalMonthTest, TheGridKeepsItsColumnsInEveryTerminal)
+TEST_F(TerminalTest, TheGridKeepsItsColumnsInEveryTerminal)
 {
     const std::vector<std::string> azar = lines(*month.print({1405, 9}, false));
-    const std::string mark = "\u200e";
-    const auto cells = [&mark](const std::string& line) {
+    const auto cells = [](const std::string& line) {
         std::vector<std::string> found;
         for (std::size_t at = line.find(mark); at != std::string::npos;) {
             const std::size_t next = line.find(mark, at + mark.size());
@@ -114,7 +129,7 @@ TEST_F(TerminalMonthTest, TheGridKeepsItsColumnsInEveryTerminal)
         EXPECT_EQ(cells(azar[row]).size(), 7u) << row;
 }
 
-TEST_F(TerminalMonthTest, LaterYearsAndMonthsOutsideTheData)
+TEST_F(TerminalTest, LaterYearsAndMonthsOutsideTheData)
 {
     // Esfand 1408 has 30 days and starts on a Tuesday (336 days after Tuesday 1 Farvardin).
     const std::vector<std::string> esfand = shown(lines(*month.print({1408, 12}, false)));
@@ -124,6 +139,41 @@ TEST_F(TerminalMonthTest, LaterYearsAndMonthsOutsideTheData)
     EXPECT_EQ(esfand[7], "");
     EXPECT_FALSE(month.print({1391, 12}, false));
     EXPECT_FALSE(month.print({1411, 1}, false));
+    EXPECT_FALSE(year.print(1200, false));
+}
+
+TEST_F(TerminalTest, Prints1405AsTwelveMonthsThreeAcross)
+{
+    const std::optional<std::string> printed = year.print(1405, false);
+    ASSERT_TRUE(printed);
+    const std::vector<std::string> text = shown(lines(*printed));
+    EXPECT_EQ(text[0], std::string(31, ' ') + "١٤٠٥");
+    // Three names on the first row of months, the weekday initials under each.
+    EXPECT_EQ(text[2].find("فروردین"), 7u) << text[2];
+    EXPECT_NE(text[2].find("خرداد"), std::string::npos);
+    EXPECT_EQ(text[3], "  ش  ی  د  س  چ  پ  ج    ش  ی  د  س  چ  پ  ج    ش  ی  د  س  چ  پ  ج");
+    // 1 Farvardin 1405 is a Saturday: the first column of its first week.
+    EXPECT_EQ(text[4].substr(0, 4), "  ١") << text[4];
+    for (const char* name : {"تیر", "مهر", "دی", "اسفند"})
+        EXPECT_NE(printed->find(name), std::string::npos) << name;
+    for (const std::string& line : text)
+        EXPECT_LE(columns(line), 80u) << line;
+    EXPECT_EQ(printed->find('\x1b'), std::string::npos);
+}
+
+TEST_F(TerminalTest, ColoursHolidaysOnATerminal)
+{
+    const std::string red = "\x1b[31m";
+    const std::string plain = "\x1b[0m";
+    const std::vector<std::string> text = shown(lines(*year.print(1405, true)));
+    // 1 to 4 Farvardin (Saturday to Tuesday) are holidays, 5 is not, Friday 7 is coloured.
+    const std::string& week = text[4];
+    EXPECT_EQ(week.find(' ' + red + " ١" + plain + ' ' + red + " ٢" + plain + ' ' + red + " ٣" + plain + ' ' + red
+                        + " ٤" + plain + "  ٥  ٦ " + red + " ٧" + plain),
+              0u)
+        << week;
+    for (const std::string& line : text)
+        EXPECT_LE(columns(line), 80u) << line;
 }
 
 }  // namespace
