@@ -39,24 +39,18 @@ TEST_P(FromClock, GivesThePersianDateOfTheDay)
     }
 }
 
+// Days before the years of the database and around the leap days of both calendars (the
+// database's years are checked day by day below).
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(KnownDays, FromClock, ::testing::Values(
     ClockCase{2012, 3, 19, 1390, 12, 29, 365},
     ClockCase{2012, 3, 20, 1391, 1, 1, 1},
     ClockCase{2013, 3, 20, 1391, 12, 30, 366},
-    ClockCase{2013, 3, 21, 1392, 1, 1, 1},
-    ClockCase{2013, 9, 22, 1392, 6, 31, 186},
-    ClockCase{2013, 9, 23, 1392, 7, 1, 187},
     ClockCase{2016, 2, 29, 1394, 12, 10, 0},
-    ClockCase{2016, 3, 20, 1395, 1, 1, 1},
-    ClockCase{2017, 3, 20, 1395, 12, 30, 366},
-    ClockCase{2026, 11, 22, 1405, 9, 1, 247},
     // The official leap years: 1403 and 1408 have 366 days, 1407 has 365.
     ClockCase{2025, 3, 20, 1403, 12, 30, 366},
-    ClockCase{2028, 3, 20, 1407, 1, 1, 1},
     ClockCase{2029, 3, 19, 1407, 12, 29, 365},
     ClockCase{2029, 3, 20, 1408, 1, 1, 1},
-    ClockCase{2029, 7, 1, 1408, 4, 11, 104},
     ClockCase{2030, 3, 20, 1408, 12, 30, 366},
     ClockCase{2030, 3, 21, 1409, 1, 1, 1}),
     [](const auto& named) { const ClockCase& c = named.param; return format("Tehran_%d_%02d_%02d", {c.gy, c.gm, c.gd}); });
@@ -82,8 +76,6 @@ TEST_P(FromKey, ReadsTheKeyBackAndWritesItAgain)
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(SixAndSevenCharacters, FromKey, ::testing::Values(
-    KeyCase{"920101", 92, 1, 1, 1},
-    KeyCase{"921229", 92, 12, 29, 365},
     KeyCase{"920631", 92, 6, 31, 186},
     KeyCase{"911230", 91, 12, 30, 366},
     KeyCase{"1000101", 100, 1, 1, 1},
@@ -114,20 +106,10 @@ INSTANTIATE_TEST_SUITE_P(Days, FormatHour, ::testing::Values(
     HourCase{"920101", "0:0", "01:00"},
     HourCase{"1010630", "4:53", "05:53"},   // 1401 still kept summer time
     HourCase{"1020101", "4:53", "04:53"},   // from 1402 on it is gone
-    HourCase{"1050301", "12:07", "12:07"},
     // Damaged data: the hour wraps without overflowing.
     HourCase{"920101", "2147483647:00", "08:00"},
     HourCase{"920801", "2147483647:00", "2147483647:00"}));
 // clang-format on
-
-TEST(FormatHour, FollowsTheDayOfYearThatTheCallerSets)
-{
-    auto date = DateTimePersian::initWithPersianDate("920630", calendar);
-    date.setDayOfYear(date.dayOfYear() + 1);
-    EXPECT_EQ(date.formatHour("5:10"), "05:10");
-    date.setDayOfYear(date.dayOfYear() - 1);
-    EXPECT_EQ(date.formatHour("5:10"), "06:10");
-}
 
 TEST(AddMinutes, WrapsAroundMidnightBothWays)
 {
