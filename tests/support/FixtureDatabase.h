@@ -32,7 +32,6 @@ protected:
     }
 
     std::string scalar(std::string_view sql) { return db.ExecuteScaler(sql).value_or("(none)"); }
-    int count(std::string_view sql) { return std::stoi(db.ExecuteScaler(sql).value_or("-1")); }
     void exec(std::string_view sql) { ASSERT_TRUE(db.ExecuteNonQuery(sql)) << sql; }
 
     TempFolder temp;

@@ -15,6 +15,8 @@ class CitiesFixture : public WorkingCopy {
 protected:
     CitiesFixture() : WorkingCopy({"fixture-data.sql", "offset-city.sql", "cities.sql"}) {}
 
+    int count(std::string_view sql) { return std::stoi(db.ExecuteScaler(sql).value_or("-1")); }
+
     void choose(int stateId, int ordering)
     {
         exec("INSERT INTO tSelectedStates VALUES(" + std::to_string(stateId) + ", " + std::to_string(ordering) + ")");
