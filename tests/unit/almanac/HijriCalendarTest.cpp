@@ -15,6 +15,7 @@
 #include <iostream>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 
 namespace kavenda::almanac {
 namespace {
@@ -46,10 +47,9 @@ TEST(HijriCalendar, NamesTheDayMonthAndLengthOfEveryDay)
     // clang-format on
     for (const Case& c : cases) {
         const HijriDate d = calendar.on(c.day);
-        EXPECT_EQ(d.year, c.expected.year) << c.day;
-        EXPECT_EQ(d.month, c.expected.month) << c.day;
-        EXPECT_EQ(d.day, c.expected.day) << c.day;
-        EXPECT_EQ(d.monthLength, c.expected.monthLength) << c.day;
+        EXPECT_EQ(std::tuple(d.year, d.month, d.day, d.monthLength),
+                  std::tuple(c.expected.year, c.expected.month, c.expected.day, c.expected.monthLength))
+            << c.day;
     }
     EXPECT_THROW(calendar.on(muharram1440 - 30), std::runtime_error);
     EXPECT_THROW(calendar.on(muharram1440 + 30), std::runtime_error);

@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace kavenda {
 namespace {
 
@@ -17,99 +19,73 @@ using test::tehran;
 
 const IcuPersianCalendar calendar;
 
-struct ClockCase {
-    int gy, gm, gd;
-    int year, month, day, dayOfYear;
-};
-
-class FromClock : public ::testing::TestWithParam<ClockCase> {};
-
-TEST_P(FromClock, GivesThePersianDateOfTheDay)
+// Days before the years of the database and around the leap days of both calendars (the
+// database's years are checked day by day below).
+TEST(FromClock, GivesThePersianDateOfTheDay)
 {
-    const ClockCase& c = GetParam();
-    // Early morning and late evening of the same civil day give the same date.
-    for (int hour : {0, 23}) {
-        const auto date = DateTimePersian::init(tehran(c.gy, c.gm, c.gd, hour, 30), calendar);
-        EXPECT_EQ(date.year(), c.year);
-        EXPECT_EQ(date.month(), c.month);
-        EXPECT_EQ(date.day(), c.day);
-        if (c.dayOfYear != 0) {
-            EXPECT_EQ(date.dayOfYear(), c.dayOfYear);
+    struct Case {
+        int gy, gm, gd;
+        int year, month, day, dayOfYear;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {2012, 3, 19, 1390, 12, 29, 365}, {2012, 3, 20, 1391, 1, 1, 1}, {2013, 3, 20, 1391, 12, 30, 366},
+        {2016, 2, 29, 1394, 12, 10, 346},
+        // The official leap years: 1403 and 1408 have 366 days, 1407 has 365.
+        {2025, 3, 20, 1403, 12, 30, 366}, {2029, 3, 19, 1407, 12, 29, 365}, {2029, 3, 20, 1408, 1, 1, 1},
+        {2030, 3, 20, 1408, 12, 30, 366}, {2030, 3, 21, 1409, 1, 1, 1},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        // Early morning and late evening of the same civil day give the same date.
+        for (int hour : {0, 23}) {
+            const auto date = DateTimePersian::init(tehran(c.gy, c.gm, c.gd, hour, 30), calendar);
+            EXPECT_EQ(std::tuple(date.year(), date.month(), date.day(), date.dayOfYear()),
+                      std::tuple(c.year, c.month, c.day, c.dayOfYear))
+                << c.gy << "-" << c.gm << "-" << c.gd << " " << hour << ":30";
         }
     }
 }
 
-// Days before the years of the database and around the leap days of both calendars (the
-// database's years are checked day by day below).
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(KnownDays, FromClock, ::testing::Values(
-    ClockCase{2012, 3, 19, 1390, 12, 29, 365},
-    ClockCase{2012, 3, 20, 1391, 1, 1, 1},
-    ClockCase{2013, 3, 20, 1391, 12, 30, 366},
-    ClockCase{2016, 2, 29, 1394, 12, 10, 0},
-    // The official leap years: 1403 and 1408 have 366 days, 1407 has 365.
-    ClockCase{2025, 3, 20, 1403, 12, 30, 366},
-    ClockCase{2029, 3, 19, 1407, 12, 29, 365},
-    ClockCase{2029, 3, 20, 1408, 1, 1, 1},
-    ClockCase{2030, 3, 20, 1408, 12, 30, 366},
-    ClockCase{2030, 3, 21, 1409, 1, 1, 1}),
-    [](const auto& named) { const ClockCase& c = named.param; return format("Tehran_%d_%02d_%02d", {c.gy, c.gm, c.gd}); });
-// clang-format on
-
-struct KeyCase {
-    const char* key;
-    int year, month, day, dayOfYear;
-};
-
-class FromKey : public ::testing::TestWithParam<KeyCase> {};
-
-TEST_P(FromKey, ReadsTheKeyBackAndWritesItAgain)
+TEST(FromKey, ReadsSixAndSevenCharacterKeysBackAndWritesThemAgain)
 {
-    const KeyCase& c = GetParam();
-    const auto date = DateTimePersian::initWithPersianDate(c.key, calendar);
-    EXPECT_EQ(date.year(), c.year);
-    EXPECT_EQ(date.month(), c.month);
-    EXPECT_EQ(date.day(), c.day);
-    EXPECT_EQ(date.dayOfYear(), c.dayOfYear);
-    EXPECT_EQ(date.getPersianDate(), c.key);
+    struct Case {
+        const char* key;
+        int year, month, day, dayOfYear;
+    };
+    for (const Case& c : {Case{"920631", 92, 6, 31, 186}, Case{"911230", 91, 12, 30, 366},
+                          Case{"1000101", 100, 1, 1, 1}, Case{"1050901", 105, 9, 1, 247},
+                          Case{"1031230", 103, 12, 30, 366}}) {
+        const auto date = DateTimePersian::initWithPersianDate(c.key, calendar);
+        EXPECT_EQ(std::tuple(date.year(), date.month(), date.day(), date.dayOfYear()),
+                  std::tuple(c.year, c.month, c.day, c.dayOfYear))
+            << c.key;
+        EXPECT_EQ(date.getPersianDate(), c.key);
+    }
 }
 
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(SixAndSevenCharacters, FromKey, ::testing::Values(
-    KeyCase{"920631", 92, 6, 31, 186},
-    KeyCase{"911230", 91, 12, 30, 366},
-    KeyCase{"1000101", 100, 1, 1, 1},
-    KeyCase{"1050901", 105, 9, 1, 247},
-    KeyCase{"1031230", 103, 12, 30, 366}),
-    [](const auto& named) { return std::string("Key") + named.param.key; });
-// clang-format on
-
-struct HourCase {
-    const char* key;
-    const char* time;
-    const char* shown;
-};
-
-class FormatHour : public ::testing::TestWithParam<HourCase> {};
-
-TEST_P(FormatHour, AddsTheSummerHourOnlyWhereItWasKept)
+TEST(FormatHour, AddsTheSummerHourOnlyWhereItWasKept)
 {
-    const HourCase& c = GetParam();
-    EXPECT_EQ(DateTimePersian::initWithPersianDate(c.key, calendar).formatHour(c.time), c.shown)
-        << c.key << " " << c.time;
+    // clang-format off
+    const struct {
+        const char* key;
+        const char* time;
+        const char* shown;
+    } cases[] = {
+        {"920630", "23:30", "00:30"},   // day 185: still summer, wraps past midnight
+        {"920631", "23:30", "23:30"},   // day 186: standard time
+        {"920101", "0:0", "01:00"},
+        {"1010630", "4:53", "05:53"},   // 1401 still kept summer time
+        {"1020101", "4:53", "04:53"},   // from 1402 on it is gone
+        // Damaged data: the hour wraps without overflowing.
+        {"920101", "2147483647:00", "08:00"},
+        {"920801", "2147483647:00", "2147483647:00"},
+    };
+    // clang-format on
+    for (const auto& c : cases)
+        EXPECT_EQ(DateTimePersian::initWithPersianDate(c.key, calendar).formatHour(c.time), c.shown)
+            << c.key << " " << c.time;
 }
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Days, FormatHour, ::testing::Values(
-    HourCase{"920630", "23:30", "00:30"},   // day 185: still summer, wraps past midnight
-    HourCase{"920631", "23:30", "23:30"},   // day 186: standard time
-    HourCase{"920101", "0:0", "01:00"},
-    HourCase{"1010630", "4:53", "05:53"},   // 1401 still kept summer time
-    HourCase{"1020101", "4:53", "04:53"},   // from 1402 on it is gone
-    // Damaged data: the hour wraps without overflowing.
-    HourCase{"920101", "2147483647:00", "08:00"},
-    HourCase{"920801", "2147483647:00", "2147483647:00"}));
-// clang-format on
 
 TEST(AddMinutes, WrapsAroundMidnightBothWays)
 {
