@@ -18,7 +18,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <ostream>
 
 namespace kavenda {
 namespace {
@@ -131,11 +130,6 @@ struct Jump {
     std::chrono::minutes pastNoon;
     bool fires;
 };
-
-void PrintTo(const Jump& jump, std::ostream* out)
-{
-    *out << jump.pastNoon.count() << " minutes past";
-}
 
 class JumpOverTheNoonCall : public RunningReminders, public ::testing::WithParamInterface<Jump> {};
 

@@ -89,10 +89,7 @@ TEST_F(MonthGridTest, DaysCarryTheirMeaningsAndAPickedNumberIsAlwaysOnTheSelecti
 {
     struct Case {
         int day;
-        bool holiday;
-        bool occasion;
-        bool today;
-        bool selected;
+        bool holiday, occasion, today, selected;
         Ink normal;
     };
     // Opened on 13 Farvardin 1392 with today 20 Farvardin. 1: a holiday with an occasion;
@@ -111,11 +108,9 @@ TEST_F(MonthGridTest, DaysCarryTheirMeaningsAndAPickedNumberIsAlwaysOnTheSelecti
     const MonthGrid grid = open("920113", test::tehran(2013, 4, 9, 12));
     for (const Case& c : cases) {
         const DayCell& found = cell(grid, c.day);
-        EXPECT_EQ(found.holiday, c.holiday) << c.day;
-        EXPECT_EQ(found.hasOccasion(), c.occasion) << c.day;
-        EXPECT_EQ(found.today, c.today) << c.day;
-        EXPECT_EQ(found.selected, c.selected) << c.day;
-        EXPECT_EQ(found.ink(false), c.normal) << c.day;
+        EXPECT_EQ(std::tuple(found.holiday, found.hasOccasion(), found.today, found.selected, found.ink(false)),
+                  std::tuple(c.holiday, c.occasion, c.today, c.selected, c.normal))
+            << c.day;
         EXPECT_EQ(found.ink(true), Ink::onSelection) << c.day;
     }
     EXPECT_EQ(cell(grid, 20).description,
@@ -150,6 +145,13 @@ TEST_F(MonthGridTest, AStepSlidesToTheNextMonthWithNothingSelected)
     // Back in today's month: its button is built unselected, as no day was selected.
     EXPECT_TRUE(selectedDays(grid.pages().front()).empty());
     EXPECT_EQ(grid.todayBtn()->page, grid.pages().front().id);
+
+    // Stepping into today's month from the same day selected elsewhere selects today.
+    MonthGrid fromTheMonthBefore = open("920310");  // today is 10 Tir
+    fromTheMonthBefore.changeMonth(+1);
+    EXPECT_EQ(selectedDays(fromTheMonthBefore.pages().back()), std::vector<int>{10});
+    EXPECT_EQ(fromTheMonthBefore.today(), 0);
+    EXPECT_FALSE(fromTheMonthBefore.lastBtn());
 }
 
 TEST_F(MonthGridTest, StepsCrossTheYearWithinTheMonthsTheDatabaseHolds)
@@ -204,15 +206,6 @@ TEST_F(MonthGridTest, TheLastMonthHeldIsReadFromTheDatabase)
     const MonthGrid empty = open("920601");
     EXPECT_FALSE(empty.canStep(-1));
     EXPECT_FALSE(empty.canStep(+1));
-}
-
-TEST_F(MonthGridTest, SteppingIntoTodaysMonthSelectsTodayWhenTheSameDayWasSelected)
-{
-    MonthGrid grid = open("920310");  // today is 10 Tir
-    grid.changeMonth(+1);
-    EXPECT_EQ(selectedDays(grid.pages().back()), std::vector<int>{10});
-    EXPECT_EQ(grid.today(), 0);
-    EXPECT_FALSE(grid.lastBtn());
 }
 
 TEST_F(MonthGridTest, ATapMovesTheSelectionAndListsTheDaysOccasions)
