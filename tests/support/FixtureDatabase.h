@@ -25,9 +25,9 @@ void execSql(const std::filesystem::path& file, std::string_view sql);
 class WorkingCopy : public ::testing::Test {
 protected:
     explicit WorkingCopy(std::initializer_list<std::string_view> dataFiles = {"fixture-data.sql"})
-        : paths(temp.path() / "documents", dataFiles.size() == 0
-                                               ? std::filesystem::path(KAVENDA_RESOURCE_DIR)
-                                               : buildFixtureDatabase(temp.path() / "resources", dataFiles).parent_path())
+        : paths(temp.path() / "documents",
+                dataFiles.size() == 0 ? std::filesystem::path(KAVENDA_RESOURCE_DIR)
+                                      : buildFixtureDatabase(temp.path() / "resources", dataFiles).parent_path())
     {
     }
 

@@ -35,8 +35,8 @@ TEST_F(MyDBTest, ConvertsValuesByStorageClass)
                                "4294967297 AS wrap, 2147483648 AS high, 1 AS d, 'later' AS d");
     ASSERT_EQ(rows.size(), 1u);
     // Integers keep their low 32 bits, read as signed; of two columns of a name the later wins.
-    const Row expected{{"i", "42"},   {"t", "تهران"}, {"z", ""},    {"r", "2.5"},
-                       {"b", "ABC"},  {"wrap", "1"},  {"high", "-2147483648"}, {"d", "later"}};
+    const Row expected{{"i", "42"},   {"t", "تهران"},          {"z", ""},     {"r", "2.5"}, {"b", "ABC"},
+                       {"wrap", "1"}, {"high", "-2147483648"}, {"d", "later"}};
     EXPECT_EQ(rows[0], expected);
     EXPECT_EQ(db.columnList(), (std::vector<std::string>{"i", "t", "z", "r", "b", "wrap", "high", "d", "d"}));
     EXPECT_EQ(db.ExecuteScaler("SELECT StateID FROM tStates WHERE StateID > 1000"), std::nullopt);
@@ -47,7 +47,8 @@ TEST_F(MyDBTest, ConvertsValuesByStorageClass)
 
 TEST_F(MyDBTest, FailuresAreToldAndOnlyThoseThatDoNotCompileAreLogged)
 {
-    ASSERT_TRUE(db.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(32, 1); INSERT INTO tSelectedStates VALUES(33, 2)"));
+    ASSERT_TRUE(
+        db.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(32, 1); INSERT INTO tSelectedStates VALUES(33, 2)"));
     EXPECT_EQ(db.ExecuteScaler("SELECT COUNT(*) FROM tSelectedStates"), "1") << "only the first statement runs";
     EXPECT_FALSE(db.ExecuteNonQuery("INSERT INTO tSelectedStates VALUES(32, 2)")) << "a constraint violated";
     EXPECT_FALSE(db.ExecuteNonQuery("SELECT * FROM tSetting")) << "a statement that yields a row";
@@ -71,7 +72,9 @@ TEST_F(MyDBTest, FirstUseCopiesTheResourceAndLaterUsesNeverOverwrite)
     EXPECT_TRUE(fs::exists(paths.documentsFolder() / DataFolderLock::fileName));
 
     // Opening again closes the handle it replaces.
-    const auto openFiles = [] { return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator()); };
+    const auto openFiles = [] {
+        return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+    };
     const auto before = openFiles();
     for (int i = 0; i < 3; ++i)
         EXPECT_EQ(again.loadDB(), 0);
@@ -85,16 +88,19 @@ TEST_F(MyDBTest, AMissingOrUnopenableFileYieldsEmptyResults)
 {
     std::optional<MyDB> other;
     const std::pair<const char*, std::function<MyDB&()>> cases[] = {
-        {"deleted", [this]() -> MyDB& {
+        {"deleted",
+         [this]() -> MyDB& {
              fs::remove(db.dbPath());
              return db;
          }},
-        {"a folder in its place", [this, &other]() -> MyDB& {
+        {"a folder in its place",
+         [this, &other]() -> MyDB& {
              fs::remove(db.dbPath());
              fs::create_directory(db.dbPath());
              return other.emplace("Icons", paths, log);
          }},
-        {"no resource", [this, &other]() -> MyDB& {
+        {"no resource",
+         [this, &other]() -> MyDB& {
              fs::remove_all(paths.documentsFolder());
              fs::remove(resource());
              return other.emplace("Icons", paths, log);

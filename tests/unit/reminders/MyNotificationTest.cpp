@@ -32,8 +32,9 @@ protected:
 
     std::size_t withSound(const std::string& sound) const
     {
-        return static_cast<std::size_t>(std::count_if(notifications.records.begin(), notifications.records.end(),
-                                                      [&](const NotificationRecord& r) { return r.soundName == sound; }));
+        return static_cast<std::size_t>(
+            std::count_if(notifications.records.begin(), notifications.records.end(),
+                          [&](const NotificationRecord& r) { return r.soundName == sound; }));
     }
 
     FixedClock clock{tehran(2013, 5, 22, 0, 1)};  // 1 Khordad 1392, 00:01
@@ -118,9 +119,11 @@ TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
         std::vector<std::string> changes;
     } cases[] = {
         {"no offset row", 63, {"DELETE FROM tTimes WHERE StateID = 63"}},
-        {"a day's row instead", 63,
+        {"a day's row instead",
+         63,
          {"UPDATE tTimes SET Date = 920301, T1 = '4:30', T3 = '11:50', T5 = '19:40' WHERE StateID = 63"}},
-        {"an id below its centre's", 20,
+        {"an id below its centre's",
+         20,
          {"INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES(20, 'اسلامشهر', 1, 0)",
           "INSERT INTO tTimes VALUES(20, 14000101, 1, 1, 1, 1, 1, 1)"}},
     };

@@ -85,8 +85,9 @@ TEST_F(NewCityDraftTest, SaveWritesThePlaceItsFlooredOffsetsAndItsTurnAfterTheLi
     ASSERT_TRUE(draft.save());
     // The fixture's places end at 63, so the database numbers the new one 64.
     EXPECT_EQ(scalar("SELECT Name || ' ' || ParentID || ' ' || IsCenter FROM tStates WHERE StateID = 64"), "جهرم 8 0");
-    EXPECT_EQ(scalar("SELECT Date || ' ' || T1 || T2 || T3 || T4 || ' ' || T5 || ' ' || T6 FROM tTimes WHERE StateID = 64"),
-              "14000101 0100 -2 5");
+    EXPECT_EQ(
+        scalar("SELECT Date || ' ' || T1 || T2 || T3 || T4 || ' ' || T5 || ' ' || T6 FROM tTimes WHERE StateID = 64"),
+        "14000101 0100 -2 5");
     EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0", "35:1", "63:2", "64:4"}));
     EXPECT_EQ(scalar("SELECT typeof(Date) || typeof(T1) || typeof(T5) FROM tTimes WHERE StateID = 64"),
               "integerintegerinteger")
