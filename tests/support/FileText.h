@@ -17,9 +17,4 @@ inline std::string fileText(const std::filesystem::path& file)
     return std::string(std::istreambuf_iterator<char>(in), {});
 }
 
-inline void writeFileText(const std::filesystem::path& file, const std::string& text)
-{
-    std::ofstream(file, std::ios::binary) << text;
-}
-
 }  // namespace kavenda::test

@@ -13,9 +13,7 @@ namespace kavenda {
 class FixedPaths final : public Paths {
 public:
     FixedPaths(std::filesystem::path documents, std::filesystem::path resources)
-        : documents_(std::move(documents)), resources_(std::move(resources))
-    {
-    }
+        : documents_(std::move(documents)), resources_(std::move(resources)) {}
     std::filesystem::path documentsFolder() const override { return documents_; }
     std::filesystem::path resourceFolder() const override { return resources_; }
 

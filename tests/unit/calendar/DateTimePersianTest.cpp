@@ -2,11 +2,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "calendar/DateTimePersian.h"
+
+#include "almanac/DayCalendar.h"
 #include "desktop/SystemPersianCalendar.h"
 #include "tests/support/TehranTime.h"
 #include "text/Format.h"
 
 #include <gtest/gtest.h>
+
+#include <tuple>
 
 namespace kavenda {
 namespace {
@@ -15,153 +19,72 @@ using test::tehran;
 
 const SystemPersianCalendar calendar;
 
-struct ClockCase {
-    int gy, gm, gd;
-    int year, month, day, dayOfYear;
-};
-
-class FromClock : public ::testing::TestWithParam<ClockCase> {};
-
-TEST_P(FromClock, GivesThePersianDateOfTheDay)
+// Days before the years of the database and around the leap days of both calendars (the
+// database's years are checked day by day below).
+TEST(FromClock, GivesThePersianDateOfTheDay)
 {
-    const ClockCase& c = GetParam();
-    // Early morning and late evening of the same civil day give the same date.
-    for (int hour : {0, 23}) {
-        const auto date = DateTimePersian::init(tehran(c.gy, c.gm, c.gd, hour, 30), calendar);
-        EXPECT_EQ(date.year(), c.year);
-        EXPECT_EQ(date.month(), c.month);
-        EXPECT_EQ(date.day(), c.day);
-        if (c.dayOfYear != 0) {
-            EXPECT_EQ(date.dayOfYear(), c.dayOfYear);
+    struct Case {
+        int gy, gm, gd;
+        int year, month, day, dayOfYear;
+    };
+    // clang-format off
+    const Case cases[] = {
+        {2012, 3, 19, 1390, 12, 29, 365}, {2012, 3, 20, 1391, 1, 1, 1}, {2013, 3, 20, 1391, 12, 30, 366},
+        {2016, 2, 29, 1394, 12, 10, 346},
+        // The official leap years: 1403 and 1408 have 366 days, 1407 has 365.
+        {2025, 3, 20, 1403, 12, 30, 366}, {2029, 3, 19, 1407, 12, 29, 365}, {2029, 3, 20, 1408, 1, 1, 1},
+        {2030, 3, 20, 1408, 12, 30, 366}, {2030, 3, 21, 1409, 1, 1, 1},
+    };
+    // clang-format on
+    for (const Case& c : cases) {
+        // Early morning and late evening of the same civil day give the same date.
+        for (int hour : {0, 23}) {
+            const auto date = DateTimePersian::init(tehran(c.gy, c.gm, c.gd, hour, 30), calendar);
+            EXPECT_EQ(std::tuple(date.year(), date.month(), date.day(), date.dayOfYear()),
+                      std::tuple(c.year, c.month, c.day, c.dayOfYear))
+                << c.gy << "-" << c.gm << "-" << c.gd << " " << hour << ":30";
         }
     }
 }
 
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(KnownDays, FromClock, ::testing::Values(
-    ClockCase{2012, 3, 19, 1390, 12, 29, 365},
-    ClockCase{2012, 3, 20, 1391, 1, 1, 1},
-    ClockCase{2012, 12, 31, 1391, 10, 11, 287},
-    ClockCase{2013, 2, 28, 1391, 12, 10, 346},
-    ClockCase{2013, 3, 20, 1391, 12, 30, 366},
-    ClockCase{2013, 3, 21, 1392, 1, 1, 1},
-    ClockCase{2013, 9, 22, 1392, 6, 31, 186},
-    ClockCase{2013, 9, 23, 1392, 7, 1, 187},
-    ClockCase{2014, 3, 20, 1392, 12, 29, 365},
-    ClockCase{2014, 3, 21, 1393, 1, 1, 1},
-    ClockCase{2016, 2, 29, 1394, 12, 10, 0},
-    ClockCase{2016, 3, 20, 1395, 1, 1, 1},
-    ClockCase{2017, 1, 1, 1395, 10, 12, 288},
-    ClockCase{2017, 3, 20, 1395, 12, 30, 366},
-    ClockCase{2021, 3, 21, 1400, 1, 1, 1},
-    ClockCase{2026, 11, 22, 1405, 9, 1, 247},
-    // The official leap years: 1403 and 1408 have 366 days, 1407 has 365.
-    ClockCase{2025, 3, 20, 1403, 12, 30, 366},
-    ClockCase{2025, 3, 21, 1404, 1, 1, 1},
-    ClockCase{2028, 3, 19, 1406, 12, 29, 365},
-    ClockCase{2028, 3, 20, 1407, 1, 1, 1},
-    ClockCase{2029, 3, 19, 1407, 12, 29, 365},
-    ClockCase{2029, 3, 20, 1408, 1, 1, 1},
-    ClockCase{2029, 7, 1, 1408, 4, 11, 104},
-    ClockCase{2030, 3, 20, 1408, 12, 30, 366},
-    ClockCase{2030, 3, 21, 1409, 1, 1, 1}),
-    [](const auto& named) { const ClockCase& c = named.param; return format("Tehran_%d_%02d_%02d", {c.gy, c.gm, c.gd}); });
-// clang-format on
-
-TEST(FromClockOverYears, ConsecutiveDaysGiveConsecutiveDaysOfTheYear)
+TEST(FromKey, ReadsSixAndSevenCharacterKeysBackAndWritesThemAgain)
 {
-    auto previous = DateTimePersian::init(tehran(2011, 1, 1, 12), calendar);
-    for (int i = 1; i < 366 * 16; ++i) {
-        const auto instant = tehran(2011, 1, 1 + i, 12);
-        const auto date = DateTimePersian::init(instant, calendar);
-        if (date.dayOfYear() == 1) {
-            EXPECT_EQ(date.year(), previous.year() + 1) << date.getPersianDate();
-            EXPECT_GE(previous.dayOfYear(), 365);
-        } else {
-            EXPECT_EQ(date.dayOfYear(), previous.dayOfYear() + 1) << date.getPersianDate();
-            EXPECT_EQ(date.year(), previous.year());
-        }
-        // The arithmetic of the clock conversion agrees with the platform's Persian calendar.
-        EXPECT_EQ(calendar.dayOfYear(date.year(), date.month(), date.day()), date.dayOfYear()) << date.getPersianDate();
-        previous = date;
+    struct Case {
+        const char* key;
+        int year, month, day, dayOfYear;
+    };
+    for (const Case& c : {Case{"920631", 92, 6, 31, 186}, Case{"911230", 91, 12, 30, 366},
+                          Case{"1000101", 100, 1, 1, 1}, Case{"1050901", 105, 9, 1, 247},
+                          Case{"1031230", 103, 12, 30, 366}}) {
+        const auto date = DateTimePersian::initWithPersianDate(c.key, calendar);
+        EXPECT_EQ(std::tuple(date.year(), date.month(), date.day(), date.dayOfYear()),
+                  std::tuple(c.year, c.month, c.day, c.dayOfYear))
+            << c.key;
+        EXPECT_EQ(date.getPersianDate(), c.key);
     }
 }
 
-struct KeyCase {
-    const char* key;
-    int year, month, day, dayOfYear;
-};
-
-class FromKey : public ::testing::TestWithParam<KeyCase> {};
-
-TEST_P(FromKey, ReadsTheKeyBackAndWritesItAgain)
+TEST(FormatHour, AddsTheSummerHourOnlyWhereItWasKept)
 {
-    const KeyCase& c = GetParam();
-    const auto date = DateTimePersian::initWithPersianDate(c.key, calendar);
-    EXPECT_EQ(date.year(), c.year);
-    EXPECT_EQ(date.month(), c.month);
-    EXPECT_EQ(date.day(), c.day);
-    EXPECT_EQ(date.dayOfYear(), c.dayOfYear);
-    EXPECT_EQ(date.getPersianDate(), c.key);
-}
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(SixAndSevenCharacters, FromKey, ::testing::Values(
-    KeyCase{"920101", 92, 1, 1, 1},
-    KeyCase{"920730", 92, 7, 30, 216},
-    KeyCase{"921229", 92, 12, 29, 365},
-    KeyCase{"920631", 92, 6, 31, 186},
-    KeyCase{"911230", 91, 12, 30, 366},
-    KeyCase{"1000101", 100, 1, 1, 1},
-    KeyCase{"1050901", 105, 9, 1, 247},
-    KeyCase{"1031230", 103, 12, 30, 366}),
-    [](const auto& named) { return std::string("Key") + named.param.key; });
-// clang-format on
-
-TEST(DateKey, FullAndTwoDigitYearsWriteTheSameKey)
-{
-    const auto fromClock = DateTimePersian::init(tehran(2013, 3, 21, 9), calendar);
-    EXPECT_EQ(fromClock.year(), 1392);
-    EXPECT_EQ(fromClock.getPersianDate(), "920101");
-    EXPECT_EQ(DateTimePersian::init(tehran(2021, 3, 21, 9), calendar).getPersianDate(), "1000101");
-}
-
-struct HourCase {
-    const char* key;
-    const char* time;
-    const char* shown;
-};
-
-class FormatHour : public ::testing::TestWithParam<HourCase> {};
-
-TEST_P(FormatHour, AddsTheSummerHourOnlyWhereItWasKept)
-{
-    const HourCase& c = GetParam();
-    EXPECT_EQ(DateTimePersian::initWithPersianDate(c.key, calendar).formatHour(c.time), c.shown)
-        << c.key << " " << c.time;
-}
-
-// clang-format off
-INSTANTIATE_TEST_SUITE_P(Days, FormatHour, ::testing::Values(
-    HourCase{"920630", "23:30", "00:30"},   // day 185: still summer, wraps past midnight
-    HourCase{"920631", "23:30", "23:30"},   // day 186: standard time
-    HourCase{"920101", "0:0", "01:00"},
-    HourCase{"920801", "4:5", "04:05"},
-    HourCase{"1010630", "4:53", "05:53"},   // 1401 still kept summer time
-    HourCase{"1020101", "4:53", "04:53"},   // from 1402 on it is gone
-    HourCase{"1050301", "12:07", "12:07"},
-    // Damaged data: the hour wraps without overflowing.
-    HourCase{"920101", "2147483647:00", "08:00"},
-    HourCase{"920801", "2147483647:00", "2147483647:00"}));
-// clang-format on
-
-TEST(FormatHour, FollowsTheDayOfYearThatTheCallerSets)
-{
-    auto date = DateTimePersian::initWithPersianDate("920630", calendar);
-    date.setDayOfYear(date.dayOfYear() + 1);
-    EXPECT_EQ(date.formatHour("5:10"), "05:10");
-    date.setDayOfYear(date.dayOfYear() - 1);
-    EXPECT_EQ(date.formatHour("5:10"), "06:10");
+    // clang-format off
+    const struct {
+        const char* key;
+        const char* time;
+        const char* shown;
+    } cases[] = {
+        {"920630", "23:30", "00:30"},   // day 185: still summer, wraps past midnight
+        {"920631", "23:30", "23:30"},   // day 186: standard time
+        {"920101", "0:0", "01:00"},
+        {"1010630", "4:53", "05:53"},   // 1401 still kept summer time
+        {"1020101", "4:53", "04:53"},   // from 1402 on it is gone
+        // Damaged data: the hour wraps without overflowing.
+        {"920101", "2147483647:00", "08:00"},
+        {"920801", "2147483647:00", "2147483647:00"},
+    };
+    // clang-format on
+    for (const auto& c : cases)
+        EXPECT_EQ(DateTimePersian::initWithPersianDate(c.key, calendar).formatHour(c.time), c.shown)
+            << c.key << " " << c.time;
 }
 
 TEST(AddMinutes, WrapsAroundMidnightBothWays)
@@ -182,6 +105,31 @@ TEST(AddMinutes, WrapsAroundMidnightBothWays)
     // clang-format on
     for (const auto& c : cases)
         EXPECT_EQ(DateTimePersian::add(c.time, c.minutes), c.result) << c.time << " " << c.minutes;
+}
+
+// The date engine keys the database by the day the clock shows; the generator wrote the
+// database's keys, and the program those of the years after the shipped ones, from the
+// almanac's own walk through the Persian calendar. Both must name every day
+// alike, or from some day on every screen reads the neighbouring day's times.
+TEST(EngineAndGenerator, AgreeOnEveryDayOfTheShippedAndTheComputedYears)
+{
+    almanac::DayCalendar days(1392);
+    int walked = 0;
+    for (almanac::CalendarDay d = days.current(); d.persianYear <= 1440; days.next(), d = days.current()) {
+        const std::string key = format("%d%02d%02d", {d.persianYear % 1300, d.persianMonth, d.persianDay});
+        for (int hour : {0, 12, 23}) {
+            const auto date = DateTimePersian::init(
+                test::tehran(d.gregorianYear, d.gregorianMonth, d.gregorianDay, hour, 30), calendar);
+            ASSERT_EQ(date.getPersianDate(), key)
+                << d.gregorianYear << "-" << d.gregorianMonth << "-" << d.gregorianDay << " " << hour << ":30";
+            ASSERT_EQ(date.dayOfYear(), calendar.dayOfYear(d.persianYear, d.persianMonth, d.persianDay)) << key;
+        }
+        walked += d.persianYear <= 1410;
+    }
+    // 19 years of which 1395, 1399, 1403 and 1408 are leap.
+    EXPECT_EQ(walked, 19 * 365 + 4);
+    EXPECT_EQ(almanac::weekday(almanac::julianDayNumber(2024, 4, 12)), almanac::friday);
+    EXPECT_EQ(almanac::weekday(almanac::julianDayNumber(2013, 3, 21)), 4);  // Nowruz 1392 was a Thursday
 }
 
 }  // namespace

@@ -3,72 +3,50 @@
 
 #include "reminders/ReminderSound.h"
 
-#include "platform/AudioPlayer.h"
 #include "tests/support/FixedPaths.h"
+#include "tests/support/RecordingAudioPlayer.h"
 #include "tests/support/RecordingLog.h"
+#include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 
-#include <set>
+#include <fstream>
 
 namespace kavenda {
 namespace {
 
-// Plays the files it knows until stopped or told that the sound ended.
-class RecordingAudio final : public AudioPlayer {
-public:
-    bool open(const std::filesystem::path& file) override
-    {
-        playing = false;
-        opened.push_back(file);
-        return readable.contains(file.filename().string());
-    }
-    void play() override { playing = true; }
-    void stop() override
-    {
-        playing = false;
-        ++stops;
-    }
-    bool isPlaying() const override { return playing; }
-
-    std::set<std::string> readable{"3.wav", "alarm.wav"};
-    std::vector<std::filesystem::path> opened;
-    bool playing = false;
-    int stops = 0;
-};
+using Calls = std::vector<std::string>;
 
 class ReminderSoundTest : public ::testing::Test {
 protected:
-    NotificationRecord reminder(const std::string& soundName)
+    ReminderSoundTest()
     {
-        return {{}, "Asia/Tehran", "text", "Ok", soundName, {}};
+        for (const char* name : {"3.wav", "alarm.wav"})
+            std::ofstream(temp.path() / name) << "sound";
     }
 
-    RecordingAudio audio;
-    FixedPaths paths{"/documents", "/resources"};
+    static NotificationRecord reminder(const std::string& soundName) { return {{}, "", "", "", soundName, {}}; }
+    std::string file(const std::string& name) const { return (temp.path() / name).string(); }
+
+    test::TempFolder temp;
+    FixedPaths paths{"/documents", temp.path()};
+    test::RecordingAudioPlayer audio;
     test::RecordingLog log;
     ReminderSound sound{audio, paths, log};
 };
 
-TEST_F(ReminderSoundTest, PlaysTheReminderSoundFromTheResources)
+TEST_F(ReminderSoundTest, PlaysTheReminderSoundFromTheResourcesUntilItEnds)
 {
-    const int ticket = sound.play(reminder("3.wav"));
-    EXPECT_NE(ticket, 0);
-    EXPECT_EQ(audio.opened, std::vector<std::filesystem::path>{"/resources/3.wav"});
+    EXPECT_EQ(sound.play(reminder("")), 0);
+    EXPECT_EQ(sound.play(reminder("missing.wav")), 0);
+    EXPECT_FALSE(sound.isPlaying());
+    EXPECT_NE(sound.play(reminder("3.wav")), 0);
     EXPECT_TRUE(sound.isPlaying());
     // The sound ends by itself: nothing is left to stop.
     audio.playing = false;
     EXPECT_FALSE(sound.isPlaying());
     sound.stop();
-    EXPECT_EQ(audio.stops, 0);
-}
-
-TEST_F(ReminderSoundTest, WithoutASoundNothingPlays)
-{
-    EXPECT_EQ(sound.play(reminder("")), 0);
-    EXPECT_EQ(sound.play(reminder("missing.wav")), 0);
-    EXPECT_FALSE(sound.isPlaying());
-    EXPECT_EQ(audio.opened, std::vector<std::filesystem::path>{"/resources/missing.wav"});
+    EXPECT_EQ(audio.calls, (Calls{"open " + file("missing.wav"), "open " + file("3.wav"), "play"}));
 }
 
 TEST_F(ReminderSoundTest, ANewerReminderCutsTheOlderShortAndKeepsItsOwnTicket)
@@ -76,7 +54,6 @@ TEST_F(ReminderSoundTest, ANewerReminderCutsTheOlderShortAndKeepsItsOwnTicket)
     const int older = sound.play(reminder("3.wav"));
     const int newer = sound.play(reminder("alarm.wav"));
     EXPECT_NE(older, newer);
-    EXPECT_EQ(audio.stops, 1);
     EXPECT_TRUE(sound.isPlaying());
 
     // Closing the older reminder's alert leaves the newer sound alone; its own stops it.
@@ -84,7 +61,8 @@ TEST_F(ReminderSoundTest, ANewerReminderCutsTheOlderShortAndKeepsItsOwnTicket)
     EXPECT_TRUE(sound.isPlaying());
     sound.stop(newer);
     EXPECT_FALSE(sound.isPlaying());
-    EXPECT_EQ(audio.stops, 2);
+    EXPECT_EQ(audio.calls,
+              (Calls{"open " + file("3.wav"), "play", "stop", "open " + file("alarm.wav"), "play", "stop"}));
     EXPECT_EQ(log.lines,
               (std::vector<std::string>{"sound playing: 3.wav", "sound stopped", "sound playing: alarm.wav",
                                         "sound stopped"}));

@@ -11,14 +11,13 @@
 #include "desktop/SystemPersianCalendar.h"
 #include "reminders/ReminderQueue.h"
 #include "tests/support/FixedClock.h"
+#include "tests/support/FixtureDatabase.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
-#include "tests/unit/database/ShippedIcons.h"
 #include "text/Format.h"
 
 #include <algorithm>
 #include <cstdlib>
-#include <ostream>
 
 namespace kavenda {
 namespace {
@@ -28,9 +27,9 @@ using test::tehran;
 
 constexpr int tehranCentre = 39;
 
-class RunningReminders : public test::ShippedIcons {
+class RunningReminders : public test::WorkingCopy {
 protected:
-    RunningReminders()
+    RunningReminders() : WorkingCopy({})
     {
         // The three calls only: one record per call and day.
         db.ExecuteNonQuery("UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 0, Item4 = 0, Item5 = 0, "
@@ -122,17 +121,15 @@ TEST_F(RunningReminders, TenDaysRunningFireEveryCallOfTenDaysAtItsMoment)
         }
     }
     EXPECT_EQ(changes, std::vector<ReplanWatch::Change>(10, ReplanWatch::Change::newDay));
+    // The next look comes just after midnight, or within the longest wait.
+    EXPECT_EQ(watch.nextLookIn(tehran(2026, 11, 22, 23, 59, 30), 60'000ms), 31'000ms);
+    EXPECT_EQ(watch.nextLookIn(tehran(2026, 11, 22, 12, 0), 60'000ms), 60'000ms);
 }
 
 struct Jump {
     std::chrono::minutes pastNoon;
     bool fires;
 };
-
-void PrintTo(const Jump& jump, std::ostream* out)
-{
-    *out << jump.pastNoon.count() << " minutes past";
-}
 
 class JumpOverTheNoonCall : public RunningReminders, public ::testing::WithParamInterface<Jump> {};
 
@@ -196,12 +193,6 @@ TEST_F(RunningReminders, NoCallFiresTwice)
     run(2h);
     EXPECT_EQ(timesFired(noon, noonCall), 1);
     EXPECT_EQ(changes, std::vector<ReplanWatch::Change>{ReplanWatch::Change::clockJump});
-}
-
-TEST_F(RunningReminders, TheNextLookComesJustAfterMidnightOrWithinTheLongestWait)
-{
-    EXPECT_EQ(watch.nextLookIn(tehran(2026, 11, 22, 23, 59, 30), 60'000ms), 31'000ms);
-    EXPECT_EQ(watch.nextLookIn(tehran(2026, 11, 22, 12, 0), 60'000ms), 60'000ms);
 }
 
 }  // namespace

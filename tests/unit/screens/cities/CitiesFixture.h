@@ -1,0 +1,34 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "tests/support/FixtureDatabase.h"
+
+#include <string>
+#include <vector>
+
+namespace kavenda::test {
+
+// The places of the city screens, and the chosen cities as "id:ordering" in ascending order.
+class CitiesFixture : public WorkingCopy {
+protected:
+    CitiesFixture() : WorkingCopy({"fixture-data.sql", "offset-city.sql", "cities.sql"}) {}
+
+    int count(std::string_view sql) { return std::stoi(db.ExecuteScaler(sql).value_or("-1")); }
+
+    void choose(int stateId, int ordering)
+    {
+        exec("INSERT INTO tSelectedStates VALUES(" + std::to_string(stateId) + ", " + std::to_string(ordering) + ")");
+    }
+
+    std::vector<std::string> orderings()
+    {
+        std::vector<std::string> found;
+        for (const auto& row : db.Execute("SELECT StateID, Ordering FROM tSelectedStates ORDER BY Ordering, StateID"))
+            found.push_back(row.at("StateID") + ":" + row.at("Ordering"));
+        return found;
+    }
+};
+
+}  // namespace kavenda::test
