@@ -12,7 +12,7 @@
 #include "screens/main/MainViewController.h"
 #include "tests/support/TehranTime.h"
 #include "tests/ui/AccessibleWalk.h"
-#include "tests/ui/main/MainScreenFixture.h"
+#include "tests/ui/screens/main/MainScreenFixture.h"
 #include "widgets/Animations.h"
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"

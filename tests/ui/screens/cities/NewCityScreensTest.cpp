@@ -6,7 +6,7 @@
 #include "screens/cities/NewCityController.h"
 #include "screens/cities/SearchController.h"
 #include "screens/cities/SelectionController.h"
-#include "tests/ui/cities/OptionsFixture.h"
+#include "tests/ui/screens/cities/OptionsFixture.h"
 #include "widgets/Animations.h"
 #include "widgets/FineSlider.h"
 #include "widgets/NavigationStack.h"

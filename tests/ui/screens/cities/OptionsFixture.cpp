@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tests/ui/cities/OptionsFixture.h"
+#include "tests/ui/screens/cities/OptionsFixture.h"
 
 #include "desktop/AudioModule.h"
 #include "screens/cities/CustomUITabBarController.h"

@@ -10,7 +10,7 @@
 #include "screens/calendar/DayButton.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/TehranTime.h"
-#include "tests/ui/main/MainScreenFixture.h"
+#include "tests/ui/screens/main/MainScreenFixture.h"
 #include "widgets/Animations.h"
 #include "widgets/EnterPressesButtons.h"
 #include "widgets/PresentationStack.h"

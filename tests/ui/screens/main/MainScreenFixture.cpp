@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "tests/ui/main/MainScreenFixture.h"
+#include "tests/ui/screens/main/MainScreenFixture.h"
 
 #include "data/Statements.h"
 #include "screens/main/CustomUIImageView.h"

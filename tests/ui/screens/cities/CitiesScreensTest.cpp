@@ -10,7 +10,7 @@
 #include "screens/cities/SearchController.h"
 #include "screens/cities/SearchControllerDelegate.h"
 #include "screens/cities/SelectionController.h"
-#include "tests/ui/cities/OptionsFixture.h"
+#include "tests/ui/screens/cities/OptionsFixture.h"
 #include "widgets/Animations.h"
 #include "widgets/EnterPressesButtons.h"
 #include "widgets/FlipTransition.h"

@@ -13,7 +13,7 @@
 #include "tests/support/RecordingAudioPlayer.h"
 #include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingUrlOpener.h"
-#include "tests/ui/cities/OptionsFixture.h"
+#include "tests/ui/screens/cities/OptionsFixture.h"
 #include "widgets/Animations.h"
 #include "widgets/PresentationStack.h"
 #include "widgets/ToggleSwitch.h"
