@@ -5,16 +5,12 @@
 #include "widgets/NavigationStack.h"
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
-#include "widgets/PresentationStack.h"
-#include "widgets/ToggleSwitch.h"
 
-#include <QAccessible>
 #include <QLabel>
 #include <QPointer>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QToolButton>
 
 namespace kavenda {
 namespace {
@@ -150,35 +146,6 @@ private slots:
         QVERIFY(done->isVisible());
         stack.pop(false);
         QCOMPARE(stack.count(), 1);
-    }
-
-    void presentationStackCountsAndDismissesItsScreens()
-    {
-        PresentationStack window;
-        window.resize(320, 460);
-        window.show();
-        QSignalSpy changed(&window, &PresentationStack::topChanged);
-        auto* root = new QWidget;
-        window.setRoot(root);
-        QCOMPARE(window.depth(), 1);
-        QPointer<QWidget> options = new QWidget;
-        window.present(options, true);
-        auto* search = new QWidget;
-        window.present(search, false);
-        QCOMPARE(window.depth(), 3);
-        QCOMPARE(window.top(), search);
-        QCOMPARE(search->geometry(), QRect(0, 0, 320, 460));
-        QVERIFY(!root->isVisible());
-        window.dismiss(true);
-        window.dismiss(false);
-        QCOMPARE(window.depth(), 1);
-        QCOMPARE(window.top(), root);
-        QVERIFY(root->isVisible());
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QVERIFY(options.isNull());
-        window.dismiss(false);
-        QCOMPARE(window.depth(), 1);
-        QCOMPARE(changed.size(), 5);
     }
 };
 

@@ -3,10 +3,11 @@
 
 #include "app/PersianFont.h"
 #include "screens/cities/CustomUITabBarController.h"
+#include "screens/cities/EditableCityList.h"
 #include "screens/cities/NewCityController.h"
 #include "screens/cities/SearchController.h"
-#include "screens/cities/SelectionController.h"
-#include "tests/ui/screens/cities/OptionsFixture.h"
+#include "tests/support/TehranTime.h"
+#include "tests/ui/screens/ScreenFixture.h"
 #include "widgets/Animations.h"
 #include "widgets/FineSlider.h"
 #include "widgets/NavigationStack.h"
@@ -21,10 +22,9 @@
 namespace kavenda {
 namespace {
 
-using test::OptionsFixture;
+using test::ScreenFixture;
 
-// One key press per letter with the letter as its text, as a Persian keyboard sends them:
-// QTest's own key clicks carry Latin-1 letters only.
+// One key press per letter with the letter as its text, as a Persian keyboard sends them.
 void typeText(QWidget* field, const QString& text)
 {
     for (const QChar letter : text) {
@@ -33,41 +33,47 @@ void typeText(QWidget* field, const QString& text)
     }
 }
 
-NewCityController* editorOf(const OptionsFixture& f)
-{
-    return qobject_cast<NewCityController*>(f.navigation()->top());
-}
+// The options over the main screen with these cities chosen, and the editor opened from the
+// city list's create row as a user does.
+struct Editor : ScreenFixture {
+    explicit Editor(std::initializer_list<int> chosen) : ScreenFixture(test::tehran(2013, 5, 22, 0, 1), Data::cities)
+    {
+        choose(chosen);
+        show();
+        openOptions();
+        auto* createRow = find<QListWidget>(QStringLiteral("createNewCityTable"));
+        QTest::mouseClick(createRow->viewport(), Qt::LeftButton, {},
+                          createRow->visualItemRect(createRow->item(0)).center());
+        editor = qobject_cast<NewCityController*>(navigation()->top());
+        if (!editor)
+            qFatal("the create row opened no editor");
+        name = editor->findChild<QLineEdit*>(QStringLiteral("nameField"));
+    }
 
-// Opens the editor from the city list as a user does, with the create row.
-NewCityController* openEditor(OptionsFixture& f)
-{
-    QListWidget* createRow = f.selection()->findChild<QListWidget*>(QStringLiteral("createNewCityTable"));
-    QTest::mouseClick(createRow->viewport(), Qt::LeftButton, {},
-                      createRow->visualItemRect(createRow->item(0)).center());
-    return editorOf(f);
-}
+    NavigationStack* navigation() const { return find<NavigationStack>(QStringLiteral("citiesNavigation")); }
+    bool saveEnabled() const { return find<QPushButton>(QStringLiteral("btnSave"))->isEnabled(); }
+    QString lastListed() const
+    {
+        const auto* list = find<EditableCityList>();
+        return list->item(list->count() - 1)->text();
+    }
 
-void pickProvince(OptionsFixture& f, NewCityController* editor, const QString& typed)
-{
-    QTest::mouseClick(editor->findChild<QPushButton*>(QStringLiteral("provinceRow")), Qt::LeftButton);
-    SearchController* search = f.search();
-    QVERIFY(search);
-    QCOMPARE(search->typeID(), 1);
-    QVERIFY(f.navigation()->isNavigationBarHidden());
-    typeText(search->findChild<QLineEdit*>(QStringLiteral("searchBar")), typed);
-    QCOMPARE(search->findChild<QListWidget*>(QStringLiteral("tblResult"))->count(), 1);
-    QTest::mouseClick(search->findChild<QListWidget*>(QStringLiteral("tblResult"))->viewport(), Qt::LeftButton, {},
-                      search->findChild<QListWidget*>(QStringLiteral("tblResult"))
-                          ->visualItemRect(search->findChild<QListWidget*>(QStringLiteral("tblResult"))->item(0))
-                          .center());
-    QCOMPARE(editorOf(f), editor);
-    QVERIFY(!f.navigation()->isNavigationBarHidden());
-}
+    void pickProvince(const QString& typed)
+    {
+        click(QStringLiteral("provinceRow"));
+        auto* search = qobject_cast<SearchController*>(navigation()->top());
+        QVERIFY(search);
+        QVERIFY(navigation()->isNavigationBarHidden());
+        typeText(search->findChild<QLineEdit*>(), typed);
+        auto* results = search->findChild<QListWidget*>(QStringLiteral("tblResult"));
+        QCOMPARE(results->count(), 1);
+        QTest::mouseClick(results->viewport(), Qt::LeftButton, {}, results->visualItemRect(results->item(0)).center());
+        QCOMPARE(navigation()->top(), editor);
+    }
 
-QString persian(const char* text)
-{
-    return QString::fromUtf8(text);
-}
+    NewCityController* editor = nullptr;
+    QLineEdit* name = nullptr;
+};
 
 }  // namespace
 
@@ -81,168 +87,101 @@ private slots:
         usePersianFont();
     }
 
-    void typingARealNameAndPickingAProvinceSavesTheCityAtTheEndOfTheList()
+    // Keys move an offset a whole minute, a drag counts the minutes it has passed, a screen
+    // reader reads and sets minutes; the saved city comes at the end of the list.
+    void aNameAProvinceAndOffsetsAreSavedAtTheEndOfTheList()
     {
-        OptionsFixture f;
-        f.choose({32, 35, 63});
-        f.open();
-        NewCityController* editor = openEditor(f);
-        QVERIFY(editor);
+        Editor f({32, 35, 63});
+        f.name->setFocus();
+        typeText(f.name, QStringLiteral("\u0643\u0648\u064A"));  // Arabic kaf and yeh
+        QVERIFY(!f.saveEnabled());
+        QTest::keyClick(f.name, Qt::Key_Return);
+        QVERIFY2(!f.saveEnabled(), "no province yet");
 
-        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
-        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")),
-                 QStringLiteral("\u0643\u0648\u064A"));  // Arabic kaf and yeh
-        QVERIFY(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
-        QTest::keyClick(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), Qt::Key_Return);
-        QCOMPARE(editor->draft().cityName(), std::string("\u0643\u0648\u064A"));
-        QVERIFY2(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(), "no province yet");
-
-        // Keys move a whole minute; a drag stops anywhere and counts the minutes it has passed.
-        QTest::keyClick(editor->slider(1), Qt::Key_Up);
-        editor->slider(4)->setValue(-120);
-        editor->slider(5)->setValue(1000);
-        editor->slider(0)->setValue(-20);
-        QCOMPARE(editor->valueLabel(1)->text(), QStringLiteral("\u0661"));
-        QCOMPARE(editor->valueLabel(4)->text(), QStringLiteral("-\u0662"));
-        QCOMPARE(editor->valueLabel(5)->text(), QStringLiteral("\u0661\u0660"));
-        QCOMPARE(editor->valueLabel(0)->text(), QStringLiteral("-\u0661"));
-        editor->slider(0)->setValue(0);
-        editor->slider(5)->setValue(550);
-        QCOMPARE(editor->draft().difArray(), (std::array<int, 6>{0, 1, 0, 0, -2, 5}));
-
-        pickProvince(f, editor, QStringLiteral("تهر"));
-        QCOMPARE(editor->findChild<QLabel*>(QStringLiteral("provinceValue"))->text(), persian("تهران"));
-        QCOMPARE(editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->text(),
-                 QStringLiteral("\u0643\u0648\u064A"));
-        QVERIFY(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
-        f.saveScreenshot(QStringLiteral("new-city-editor.png"));
-
-        QTest::mouseClick(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave")), Qt::LeftButton);
-        QCOMPARE(f.navigation()->top(), f.selection());
-        QVERIFY(!f.tabs()->isTabBarHidden());
-        QCOMPARE(f.listedNames().last(), persian("کوی (تهران)"));
-        QCOMPARE(f.orderings().last(), QStringLiteral("64:4"));
-        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tTimes WHERE StateID = 64 AND Date = 14000101 AND T1 = 0 AND T2 = 1 "
-                           "AND T3 = 0 AND T4 = 0 AND T5 = -2 AND T6 = 5"),
-                 1);
-    }
-
-    void leavingTheNameFieldCommitsTheName()
-    {
-        OptionsFixture f;
-        f.choose({32});
-        f.open();
-        QWidget* window = f.tabs()->window();
-        window->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(window));
-        NewCityController* editor = openEditor(f);
-        pickProvince(f, editor, QStringLiteral("یزد"));
-        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
-        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral("مهریز"));
-        QVERIFY(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
-        QTest::keyClick(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), Qt::Key_Tab);
-        QVERIFY(!editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->hasFocus());
-        QCOMPARE(editor->draft().cityName(), persian("مهریز").toStdString());
-        QVERIFY(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
-    }
-
-    void onlyACommittedNameCounts()
-    {
-        OptionsFixture f;
-        f.choose({32});
-        f.open();
-        NewCityController* editor = openEditor(f);
-        QTest::keyClick(editor->slider(0), Qt::Key_Up);
-        QVERIFY2(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(),
-                 "a slider before any name");
-        pickProvince(f, editor, QStringLiteral("یزد"));
-        QVERIFY2(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(),
-                 "a province alone");
-
-        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
-        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral("مهریز"));
-        QVERIFY2(!editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(),
-                 "typed, not committed");
-        QTest::keyClick(editor->slider(2), Qt::Key_Down);
-        QVERIFY2(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled(),
-                 "a slider commits the name");
-        QCOMPARE(editor->draft().cityName(), persian("مهریز").toStdString());
-
-        // Typed on but not committed again: Save keeps the last committed name.
-        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral(" نو"));
-        QTest::mouseClick(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave")), Qt::LeftButton);
-        QCOMPARE(f.listedNames().last(), persian("مهریز (یزد)"));
-        QCOMPARE(f.countOf("SELECT T3 FROM tTimes WHERE StateID = 64"), -1);
-    }
-
-    void cancellingTheProvinceSearchAndGoingBackWriteNothing()
-    {
-        OptionsFixture f;
-        f.choose({32});
-        f.open();
-        const int places = f.countOf("SELECT COUNT(*) FROM tStates");
-        NewCityController* editor = openEditor(f);
-        pickProvince(f, editor, QStringLiteral("کرم"));
-        QTest::mouseClick(editor->findChild<QPushButton*>(QStringLiteral("provinceRow")), Qt::LeftButton);
-        QVERIFY(f.search());
-        QTest::mouseClick(f.search()->findChild<QPushButton*>(QStringLiteral("cancelButton")), Qt::LeftButton);
-        QCOMPARE(editorOf(f), editor);
-        QCOMPARE(editor->draft().provinceID(), 4);
-        QCOMPARE(editor->findChild<QLabel*>(QStringLiteral("provinceValue"))->text(), persian("کرمان"));
-
-        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
-        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral("بم"));
-        QTest::keyClick(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), Qt::Key_Return);
-        QVERIFY(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave"))->isEnabled());
-        QTest::mouseClick(editor->window()->findChild<QPushButton*>(QStringLiteral("btnBack")), Qt::LeftButton);
-        QCOMPARE(f.navigation()->top(), f.selection());
-        QVERIFY(!f.tabs()->isTabBarHidden());
-        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tStates"), places);
-        QCOMPARE(f.orderings(), QStringList{QStringLiteral("32:0")});
-    }
-
-    void aRefusedSaveKeepsTheEditorOpenAndSaysSo()
-    {
-        OptionsFixture f;
-        f.choose({32});
-        f.open();
-        QVERIFY(f.db().ExecuteNonQuery(
-            "CREATE TRIGGER full BEFORE INSERT ON tTimes BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
-        NewCityController* editor = openEditor(f);
-        editor->findChild<QLineEdit*>(QStringLiteral("nameField"))->setFocus();
-        typeText(editor->findChild<QLineEdit*>(QStringLiteral("nameField")), QStringLiteral("بم"));
-        pickProvince(f, editor, QStringLiteral("کرم"));
-        QTest::mouseClick(editor->window()->findChild<QPushButton*>(QStringLiteral("btnSave")), Qt::LeftButton);
-        QCOMPARE(editorOf(f), editor);
-        QVERIFY(editor->failureLine()->isVisible());
-        QVERIFY(!editor->failureLine()->text().isEmpty());
-        QVERIFY(!editor->failureLine()->text().contains(QLatin1Char('\n')));
-        QCOMPARE(f.countOf("SELECT COUNT(*) FROM tStates WHERE StateID > 63"), 0);
-        QCOMPARE(f.orderings(), QStringList{QStringLiteral("32:0")});
-        f.saveScreenshot(QStringLiteral("new-city-refused.png"));
-    }
-
-    // A screen reader reads and sets the sliders in minutes.
-    void aScreenReaderSetsTheOffsetsInMinutes()
-    {
-        OptionsFixture f;
-        f.choose({32});
-        f.open();
-        NewCityController* editor = openEditor(f);
-        editor->slider(4)->setValue(-150);
-        QAccessibleValueInterface* value = QAccessible::queryAccessibleInterface(editor->slider(4))->valueInterface();
-        QVERIFY(value);
+        QTest::keyClick(f.editor->slider(1), Qt::Key_Up);
+        f.editor->slider(5)->setValue(550);
+        f.editor->slider(4)->setValue(-150);
+        QAccessibleValueInterface* value =
+            QAccessible::queryAccessibleInterface(f.editor->slider(4))->valueInterface();
         QCOMPARE(value->currentValue().toInt(), -2);
         QCOMPARE(value->minimumValue().toInt(), -10);
         QCOMPARE(value->maximumValue().toInt(), 10);
         value->setCurrentValue(7);
-        QCOMPARE(editor->draft().difArray()[4], 7);
-        QCOMPARE(editor->valueLabel(4)->text(), QStringLiteral("\u0667"));
+        QCOMPARE(value->currentValue().toInt(), 7);
+        value->setCurrentValue(-2);
 
-        pickProvince(f, editor, QStringLiteral("اصف"));
-        QCOMPARE(QAccessible::queryAccessibleInterface(editor->findChild<QPushButton*>(QStringLiteral("provinceRow")))
+        f.pickProvince(QStringLiteral("تهر"));
+        QCOMPARE(f.editor->findChild<QLabel*>(QStringLiteral("provinceValue"))->text(), QStringLiteral("تهران"));
+        QCOMPARE(QAccessible::queryAccessibleInterface(f.find<QPushButton>(QStringLiteral("provinceRow")))
                      ->text(QAccessible::Description),
-                 persian("اصفهان"));
+                 QStringLiteral("تهران"));
+        QCOMPARE(f.name->text(), QStringLiteral("\u0643\u0648\u064A"));
+        QVERIFY(f.saveEnabled());
+        f.saveScreenshot(QStringLiteral("new-city-editor.png"));
+
+        f.click(QStringLiteral("btnSave"));
+        QCOMPARE(f.navigation()->top()->metaObject()->className(), "kavenda::SelectionController");
+        QCOMPARE(f.lastListed(), QStringLiteral("کوی (تهران)"));
+        QCOMPARE(f.orderings().last(), QStringLiteral("64:4"));
+        QCOMPARE(f.query("SELECT T1 || T2 || T3 || T4 || T5 || T6 FROM tTimes WHERE StateID = 64 AND Date = 14000101"),
+                 "0100-25");
+    }
+
+    // The name counts once committed: by leaving the field or by a slider; typing alone does not.
+    void onlyACommittedNameCounts()
+    {
+        Editor f({32});
+        QTest::keyClick(f.editor->slider(0), Qt::Key_Up);
+        QVERIFY2(!f.saveEnabled(), "a slider before any name");
+        f.pickProvince(QStringLiteral("یزد"));
+        QVERIFY2(!f.saveEnabled(), "a province alone");
+        f.name->setFocus();
+        typeText(f.name, QStringLiteral("مهریز"));
+        QVERIFY2(!f.saveEnabled(), "typed, not committed");
+        QTest::keyClick(f.name, Qt::Key_Tab);
+        QVERIFY(!f.name->hasFocus());
+        QVERIFY2(f.saveEnabled(), "leaving the field commits the name");
+
+        f.name->setFocus();
+        typeText(f.name, QStringLiteral(" نو"));
+        QTest::keyClick(f.editor->slider(2), Qt::Key_Down);
+        typeText(f.name, QStringLiteral("ی"));
+        f.click(QStringLiteral("btnSave"));
+        QCOMPARE(f.lastListed(), QStringLiteral("مهریز نو (یزد)"));
+        QCOMPARE(f.query("SELECT T1 || ',' || T3 FROM tTimes WHERE StateID = 64"), "1,-1");
+    }
+
+    // A refused save keeps the editor open and says so; going back writes nothing.
+    void aRefusedSaveIsSaidAndGoingBackWritesNothing()
+    {
+        Editor f({32});
+        const std::string places = f.query("SELECT COUNT(*) FROM tStates");
+        QVERIFY(f.db->ExecuteNonQuery(
+            "CREATE TRIGGER full BEFORE INSERT ON tTimes BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
+        f.name->setFocus();
+        typeText(f.name, QStringLiteral("بم"));
+        f.pickProvince(QStringLiteral("کرم"));
+        // A province search cancelled keeps the province picked.
+        f.click(QStringLiteral("provinceRow"));
+        f.click(QStringLiteral("cancelButton"));
+        QCOMPARE(f.navigation()->top(), f.editor);
+        QCOMPARE(f.editor->findChild<QLabel*>(QStringLiteral("provinceValue"))->text(), QStringLiteral("کرمان"));
+
+        f.click(QStringLiteral("btnSave"));
+        QCOMPARE(f.navigation()->top(), f.editor);
+        auto* line = f.editor->findChild<QLabel*>(QStringLiteral("failureLine"));
+        QVERIFY(line->isVisible());
+        QVERIFY(!line->text().isEmpty());
+        QVERIFY(!line->text().contains(QLatin1Char('\n')));
+        QCOMPARE(f.query("SELECT COUNT(*) FROM tStates"), places);
+        f.saveScreenshot(QStringLiteral("new-city-refused.png"));
+
+        QVERIFY(f.db->ExecuteNonQuery("DROP TRIGGER full"));
+        f.click(QStringLiteral("btnBack"));
+        QCOMPARE(f.navigation()->top()->metaObject()->className(), "kavenda::SelectionController");
+        QVERIFY(!f.find<CustomUITabBarController>()->isTabBarHidden());
+        QCOMPARE(f.query("SELECT COUNT(*) FROM tStates"), places);
+        QCOMPARE(f.orderings(), QStringList{QStringLiteral("32:0")});
     }
 };
 
