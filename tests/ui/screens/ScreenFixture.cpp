@@ -9,6 +9,7 @@
 #include "screens/main/MainViewController.h"
 #include "tests/support/FixtureDatabase.h"
 #include "text/Format.h"
+#include "widgets/NavigationStack.h"
 #include "widgets/Pager.h"
 #include "widgets/PresentationStack.h"
 
@@ -117,6 +118,30 @@ void ScreenFixture::click(const QString& objectName)
         if (button->isVisible())
             return QTest::mouseClick(button, Qt::LeftButton);
     QFAIL(qPrintable(QStringLiteral("no button %1 on show").arg(objectName)));
+}
+
+void ScreenFixture::clickRow(QListWidget* list, int row)
+{
+    list->scrollToItem(list->item(row));
+    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+}
+
+void ScreenFixture::type(QWidget* field, const QString& text)
+{
+    for (const QChar letter : text) {
+        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
+        QCoreApplication::sendEvent(field, &press);
+    }
+}
+
+NavigationStack* ScreenFixture::citiesNavigation() const
+{
+    return find<NavigationStack>(QStringLiteral("citiesNavigation"));
+}
+
+QWidget* ScreenFixture::citiesTop() const
+{
+    return citiesNavigation()->top();
 }
 
 QWidget* ScreenFixture::top() const

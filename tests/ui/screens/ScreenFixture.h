@@ -17,6 +17,7 @@
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TempFolder.h"
 
+#include <QListWidget>
 #include <QStringList>
 #include <QWidget>
 
@@ -28,6 +29,7 @@ namespace kavenda {
 
 class CustomUITabBarController;
 class MainViewController;
+class NavigationStack;
 class PresentationStack;
 
 namespace test {
@@ -55,6 +57,12 @@ public:
     CustomUITabBarController& openOptions();
     void clickTab(int index);
     void click(const QString& objectName);
+    static void clickRow(QListWidget* list, int row);
+    // One key press per letter, as a Persian keyboard sends them (QTest types Latin letters only).
+    static void type(QWidget* field, const QString& text);
+    // The top of the cities' tab, and that tab's navigation.
+    QWidget* citiesTop() const;
+    NavigationStack* citiesNavigation() const;
 
     template <typename T = QWidget> T* find(const QString& objectName = {}) const
     {

@@ -30,14 +30,9 @@ using test::ScreenFixture;
 constexpr int tehran = 32, isfahan = 33, kerman = 35;
 const Instant may22 = test::tehran(2013, 5, 22, 0, 1);
 
-NavigationStack* navigation(const ScreenFixture& f)
-{
-    return f.find<NavigationStack>(QStringLiteral("citiesNavigation"));
-}
-
 SearchController* search(const ScreenFixture& f)
 {
-    return qobject_cast<SearchController*>(navigation(f)->top());
+    return qobject_cast<SearchController*>(f.citiesTop());
 }
 
 QListWidget* results(const ScreenFixture& f)
@@ -51,20 +46,6 @@ QStringList names(const QListWidget* list)
     for (int row = 0; row < list->count(); ++row)
         found.append(list->item(row)->text());
     return found;
-}
-
-// One key press per letter, as a Persian keyboard sends them (QTest types Latin letters only).
-void typeText(QWidget* field, const QString& text)
-{
-    for (const QChar letter : text) {
-        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
-        QCoreApplication::sendEvent(field, &press);
-    }
-}
-
-void clickRow(QListWidget* list, int row)
-{
-    QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
 }
 
 // Confirms the delete control of a row, as a user does: the control, then the delete button.
@@ -111,13 +92,13 @@ private slots:
         QCOMPARE(tabs->currentIndex(), 0);
         QTRY_VERIFY(search(f));
         QVERIFY(tabs->isTabBarHidden());
-        QVERIFY(navigation(f)->isNavigationBarHidden());
+        QVERIFY(f.citiesNavigation()->isNavigationBarHidden());
         QCOMPARE(results(f)->count(), 6);
 
         f.click(QStringLiteral("cancelButton"));
-        QCOMPARE(navigation(f)->top(), f.find<SelectionController>());
+        QCOMPARE(f.citiesTop(), f.find<SelectionController>());
         QVERIFY(!tabs->isTabBarHidden());
-        QVERIFY(!navigation(f)->isNavigationBarHidden());
+        QVERIFY(!f.citiesNavigation()->isNavigationBarHidden());
         QVERIFY(!f.find<QPushButton>(QStringLiteral("btnDone"))->isEnabled());
         for (int tab = 1; tab <= 3; ++tab)
             QVERIFY2(!tabs->isTabEnabled(tab), qPrintable(QString::number(tab)));
@@ -131,10 +112,10 @@ private slots:
         f.clickTab(4);
         QCOMPARE(tabs->currentIndex(), 4);
         f.clickTab(0);
-        QCOMPARE(navigation(f)->top(), f.find<SelectionController>());  // the search does not come back
+        QCOMPARE(f.citiesTop(), f.find<SelectionController>());  // the search does not come back
 
         f.click(QStringLiteral("btnSearch"));
-        typeText(search(f)->findChild<QLineEdit*>(), QStringLiteral("\u064A\u0632\u062F"));  // Arabic yeh
+        f.type(search(f)->findChild<QLineEdit*>(), QStringLiteral("\u064A\u0632\u062F"));  // Arabic yeh
         QCOMPARE(results(f)->count(), 1);
         QTest::keyClick(search(f)->findChild<QLineEdit*>(), Qt::Key_Return);
         QCOMPARE(f.orderings(), QStringList{QStringLiteral("36:1")});
@@ -157,26 +138,26 @@ private slots:
         f.openOptions();
         auto* selection = f.find<SelectionController>();
         QTest::qWait(20);
-        QCOMPARE(navigation(f)->top(), selection);  // with a city chosen the search waits to be asked
+        QCOMPARE(f.citiesTop(), selection);  // with a city chosen the search waits to be asked
         auto* searchButton = f.find<QPushButton>(QStringLiteral("btnSearch"));
         searchButton->setFocus();
         QTest::keyClick(searchButton, Qt::Key_Return);
         QVERIFY(search(f));
         auto* field = search(f)->findChild<QLineEdit*>(QStringLiteral("searchBar"));
-        typeText(field, QStringLiteral("\u0643\u0631"));  // Arabic kaf
+        f.type(field, QStringLiteral("\u0643\u0631"));  // Arabic kaf
         QCOMPARE(names(results(f)), QStringList{QStringLiteral("کرمان (کرمان)")});
         field->clear();
-        typeText(field, QStringLiteral("\u0627\u0646"));
+        f.type(field, QStringLiteral("\u0627\u0646"));
         QCOMPARE(results(f)->count(), 4);
         f.saveScreenshot(QStringLiteral("cities-search.png"));
-        clickRow(results(f), static_cast<int>(names(results(f)).indexOf(QStringLiteral("کرمان (کرمان)"))));
-        QCOMPARE(navigation(f)->top(), selection);
+        f.clickRow(results(f), static_cast<int>(names(results(f)).indexOf(QStringLiteral("کرمان (کرمان)"))));
+        QCOMPARE(f.citiesTop(), selection);
         QCOMPARE(f.orderings(), (QStringList{QStringLiteral("32:0"), QStringLiteral("35:2")}));
         QCOMPARE(names(f.find<EditableCityList>()),
                  (QStringList{QStringLiteral("تهران (تهران)"), QStringLiteral("کرمان (کرمان)")}));
 
         f.click(QStringLiteral("btnSearch"));
-        typeText(search(f)->findChild<QLineEdit*>(), QStringLiteral("\u0627\u0646"));
+        f.type(search(f)->findChild<QLineEdit*>(), QStringLiteral("\u0627\u0646"));
         QListWidget* list = results(f);
         list->setFocus();
         list->setCurrentRow(static_cast<int>(names(list).indexOf(QStringLiteral("اصفهان (اصفهان)"))));
@@ -184,16 +165,16 @@ private slots:
         QCOMPARE(f.orderings(), (QStringList{QStringLiteral("32:0"), QStringLiteral("35:2"), QStringLiteral("33:3")}));
         f.click(QStringLiteral("btnSearch"));
         QTest::keyClick(search(f)->findChild<QLineEdit*>(), Qt::Key_Escape);
-        QCOMPARE(navigation(f)->top(), selection);
+        QCOMPARE(f.citiesTop(), selection);
 
         auto* create = f.find<QListWidget>(QStringLiteral("createNewCityTable"));
         QVERIFY(create->focusPolicy() & Qt::TabFocus);
         create->setFocus(Qt::TabFocusReason);
         create->setCurrentRow(0);
         QTest::keyClick(create, Qt::Key_Enter);
-        QVERIFY(qobject_cast<NewCityController*>(navigation(f)->top()));
+        QVERIFY(qobject_cast<NewCityController*>(f.citiesTop()));
         QTest::keyClick(f.find<QLineEdit>(QStringLiteral("nameField")), Qt::Key_Escape);
-        QCOMPARE(navigation(f)->top(), selection);
+        QCOMPARE(f.citiesTop(), selection);
 
         f.find<EditableCityList>()->setFocus();
         QTest::keyClick(f.find<EditableCityList>(), Qt::Key_Escape);

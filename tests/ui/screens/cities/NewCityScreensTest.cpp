@@ -24,15 +24,6 @@ namespace {
 
 using test::ScreenFixture;
 
-// One key press per letter with the letter as its text, as a Persian keyboard sends them.
-void typeText(QWidget* field, const QString& text)
-{
-    for (const QChar letter : text) {
-        QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
-        QCoreApplication::sendEvent(field, &press);
-    }
-}
-
 // The options over the main screen with these cities chosen, and the editor opened from the
 // city list's create row as a user does.
 struct Editor : ScreenFixture {
@@ -41,16 +32,13 @@ struct Editor : ScreenFixture {
         choose(chosen);
         show();
         openOptions();
-        auto* createRow = find<QListWidget>(QStringLiteral("createNewCityTable"));
-        QTest::mouseClick(createRow->viewport(), Qt::LeftButton, {},
-                          createRow->visualItemRect(createRow->item(0)).center());
-        editor = qobject_cast<NewCityController*>(navigation()->top());
+        clickRow(find<QListWidget>(QStringLiteral("createNewCityTable")), 0);
+        editor = qobject_cast<NewCityController*>(citiesTop());
         if (!editor)
             qFatal("the create row opened no editor");
         name = editor->findChild<QLineEdit*>(QStringLiteral("nameField"));
     }
 
-    NavigationStack* navigation() const { return find<NavigationStack>(QStringLiteral("citiesNavigation")); }
     bool saveEnabled() const { return find<QPushButton>(QStringLiteral("btnSave"))->isEnabled(); }
     QString lastListed() const
     {
@@ -61,14 +49,14 @@ struct Editor : ScreenFixture {
     void pickProvince(const QString& typed)
     {
         click(QStringLiteral("provinceRow"));
-        auto* search = qobject_cast<SearchController*>(navigation()->top());
+        auto* search = qobject_cast<SearchController*>(citiesTop());
         QVERIFY(search);
-        QVERIFY(navigation()->isNavigationBarHidden());
-        typeText(search->findChild<QLineEdit*>(), typed);
+        QVERIFY(citiesNavigation()->isNavigationBarHidden());
+        type(search->findChild<QLineEdit*>(), typed);
         auto* results = search->findChild<QListWidget*>(QStringLiteral("tblResult"));
         QCOMPARE(results->count(), 1);
         QTest::mouseClick(results->viewport(), Qt::LeftButton, {}, results->visualItemRect(results->item(0)).center());
-        QCOMPARE(navigation()->top(), editor);
+        QCOMPARE(citiesTop(), editor);
     }
 
     NewCityController* editor = nullptr;
@@ -93,7 +81,7 @@ private slots:
     {
         Editor f({32, 35, 63});
         f.name->setFocus();
-        typeText(f.name, QStringLiteral("\u0643\u0648\u064A"));  // Arabic kaf and yeh
+        f.type(f.name, QStringLiteral("\u0643\u0648\u064A"));  // Arabic kaf and yeh
         QVERIFY(!f.saveEnabled());
         QTest::keyClick(f.name, Qt::Key_Return);
         QVERIFY2(!f.saveEnabled(), "no province yet");
@@ -120,7 +108,7 @@ private slots:
         f.saveScreenshot(QStringLiteral("new-city-editor.png"));
 
         f.click(QStringLiteral("btnSave"));
-        QCOMPARE(f.navigation()->top()->metaObject()->className(), "kavenda::SelectionController");
+        QCOMPARE(f.citiesTop()->metaObject()->className(), "kavenda::SelectionController");
         QCOMPARE(f.lastListed(), QStringLiteral("کوی (تهران)"));
         QCOMPARE(f.orderings().last(), QStringLiteral("64:4"));
         QCOMPARE(f.query("SELECT T1 || T2 || T3 || T4 || T5 || T6 FROM tTimes WHERE StateID = 64 AND Date = 14000101"),
@@ -136,16 +124,16 @@ private slots:
         f.pickProvince(QStringLiteral("یزد"));
         QVERIFY2(!f.saveEnabled(), "a province alone");
         f.name->setFocus();
-        typeText(f.name, QStringLiteral("مهریز"));
+        f.type(f.name, QStringLiteral("مهریز"));
         QVERIFY2(!f.saveEnabled(), "typed, not committed");
         QTest::keyClick(f.name, Qt::Key_Tab);
         QVERIFY(!f.name->hasFocus());
         QVERIFY2(f.saveEnabled(), "leaving the field commits the name");
 
         f.name->setFocus();
-        typeText(f.name, QStringLiteral(" نو"));
+        f.type(f.name, QStringLiteral(" نو"));
         QTest::keyClick(f.editor->slider(2), Qt::Key_Down);
-        typeText(f.name, QStringLiteral("ی"));
+        f.type(f.name, QStringLiteral("ی"));
         f.click(QStringLiteral("btnSave"));
         QCOMPARE(f.lastListed(), QStringLiteral("مهریز نو (یزد)"));
         QCOMPARE(f.query("SELECT T1 || ',' || T3 FROM tTimes WHERE StateID = 64"), "1,-1");
@@ -159,16 +147,16 @@ private slots:
         QVERIFY(f.db->ExecuteNonQuery(
             "CREATE TRIGGER full BEFORE INSERT ON tTimes BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
         f.name->setFocus();
-        typeText(f.name, QStringLiteral("بم"));
+        f.type(f.name, QStringLiteral("بم"));
         f.pickProvince(QStringLiteral("کرم"));
         // A province search cancelled keeps the province picked.
         f.click(QStringLiteral("provinceRow"));
         f.click(QStringLiteral("cancelButton"));
-        QCOMPARE(f.navigation()->top(), f.editor);
+        QCOMPARE(f.citiesTop(), f.editor);
         QCOMPARE(f.editor->findChild<QLabel*>(QStringLiteral("provinceValue"))->text(), QStringLiteral("کرمان"));
 
         f.click(QStringLiteral("btnSave"));
-        QCOMPARE(f.navigation()->top(), f.editor);
+        QCOMPARE(f.citiesTop(), f.editor);
         auto* line = f.editor->findChild<QLabel*>(QStringLiteral("failureLine"));
         QVERIFY(line->isVisible());
         QVERIFY(!line->text().isEmpty());
@@ -178,7 +166,7 @@ private slots:
 
         QVERIFY(f.db->ExecuteNonQuery("DROP TRIGGER full"));
         f.click(QStringLiteral("btnBack"));
-        QCOMPARE(f.navigation()->top()->metaObject()->className(), "kavenda::SelectionController");
+        QCOMPARE(f.citiesTop()->metaObject()->className(), "kavenda::SelectionController");
         QVERIFY(!f.find<CustomUITabBarController>()->isTabBarHidden());
         QCOMPARE(f.query("SELECT COUNT(*) FROM tStates"), places);
         QCOMPARE(f.orderings(), QStringList{QStringLiteral("32:0")});

@@ -166,9 +166,7 @@ private slots:
         QVERIFY(f.find<SearchController>());
         walk(QStringLiteral("search"));
         f.click(QStringLiteral("cancelButton"));
-        auto* createRow = f.find<QListWidget>(QStringLiteral("createNewCityTable"));
-        QTest::mouseClick(createRow->viewport(), Qt::LeftButton, {},
-                          createRow->visualItemRect(createRow->item(0)).center());
+        f.clickRow(f.find<QListWidget>(QStringLiteral("createNewCityTable")), 0);
         QVERIFY(f.find<NewCityController>());
         walk(QStringLiteral("new city"));
         QApplication::setStyle(QStringLiteral("Fusion"));
