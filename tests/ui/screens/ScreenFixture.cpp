@@ -3,12 +3,15 @@
 
 #include "tests/ui/screens/ScreenFixture.h"
 
+#include "app/PersianFont.h"
 #include "data/Statements.h"
 #include "desktop/AudioModule.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/main/MainViewController.h"
 #include "tests/support/FixtureDatabase.h"
 #include "text/Format.h"
+#include "widgets/Animations.h"
+#include "widgets/EnterPressesButtons.h"
 #include "widgets/NavigationStack.h"
 #include "widgets/Pager.h"
 #include "widgets/PresentationStack.h"
@@ -42,6 +45,15 @@ ScreenFixture::ScreenFixture(Instant now, Data data)
     : clock(now), paths(temp.path() / "documents", KAVENDA_RESOURCE_DIR),
       dataPaths_(paths.documentsFolder(), resourcesFor(temp, data))
 {
+    // As the program runs: its font, Enter pressing the focused button; and no transitions, so
+    // that a change is complete at once.
+    static const bool started = [] {
+        usePersianFont();
+        qApp->installEventFilter(new EnterPressesButtons(qApp));
+        return true;
+    }();
+    Q_UNUSED(started);
+    setAnimationsEnabled(false);
     db.emplace("Icons", dataPaths_, log);
     reminders.emplace(*db, clock, calendar, notifications, random, log);
 }

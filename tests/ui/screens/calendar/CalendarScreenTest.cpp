@@ -3,7 +3,6 @@
 
 // The month calendar driven through its buttons and keys, opened from the main screen on the
 // generated database (1392 is the official calendar of that year).
-#include "app/PersianFont.h"
 #include "calendar/DateTimePersian.h"
 #include "desktop/SystemClock.h"
 #include "screens/calendar/CalendarViewController.h"
@@ -12,7 +11,6 @@
 #include "tests/support/TehranTime.h"
 #include "tests/ui/screens/ScreenFixture.h"
 #include "widgets/Animations.h"
-#include "widgets/EnterPressesButtons.h"
 #include "widgets/PresentationStack.h"
 
 #include <QAbstractButton>
@@ -106,14 +104,6 @@ class CalendarScreenTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // As the program does: Enter presses the focused button.
-        qApp->installEventFilter(new EnterPressesButtons(qApp));
-        setAnimationsEnabled(false);
-        usePersianFont();
-    }
-
     void opensOnTodayAndAPickedHolidayTurnsWhite()
     {
         Calendar c(farvardin20);

@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/PersianFont.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
 #include "screens/cities/NewCityController.h"
@@ -10,8 +9,6 @@
 #include "screens/main/MainViewController.h"
 #include "tests/support/TehranTime.h"
 #include "tests/ui/screens/ScreenFixture.h"
-#include "widgets/Animations.h"
-#include "widgets/EnterPressesButtons.h"
 #include "widgets/NavigationStack.h"
 #include "widgets/PresentationStack.h"
 
@@ -73,14 +70,6 @@ class CitiesScreensTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        // As the program does: Enter presses the focused button.
-        qApp->installEventFilter(new EnterPressesButtons(qApp));
-        setAnimationsEnabled(false);
-        usePersianFont();
-    }
-
     // Without a city the options open on the search, once; only the list and About can be used
     // until a city is added, and Done then brings the main screen back with its page.
     void aFirstStartOpensTheSearchAndTheFirstCityOpensEverything()

@@ -1,14 +1,12 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/PersianFont.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
 #include "screens/cities/NewCityController.h"
 #include "screens/cities/SearchController.h"
 #include "tests/support/TehranTime.h"
 #include "tests/ui/screens/ScreenFixture.h"
-#include "widgets/Animations.h"
 #include "widgets/FineSlider.h"
 #include "widgets/NavigationStack.h"
 
@@ -69,12 +67,6 @@ class NewCityScreensTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        setAnimationsEnabled(false);
-        usePersianFont();
-    }
-
     // Keys move an offset a whole minute, a drag counts the minutes it has passed, a screen
     // reader reads and sets minutes; the saved city comes at the end of the list.
     void aNameAProvinceAndOffsetsAreSavedAtTheEndOfTheList()

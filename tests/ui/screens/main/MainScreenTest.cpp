@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/PersianFont.h"
 #include "calendar/DateTimePersian.h"
 #include "desktop/SystemClock.h"
 #include "screens/cities/CustomUITabBarController.h"
@@ -11,7 +10,6 @@
 #include "tests/support/TehranTime.h"
 #include "tests/ui/AccessibleWalk.h"
 #include "tests/ui/screens/ScreenFixture.h"
-#include "widgets/Animations.h"
 #include "widgets/FocusRingStyle.h"
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
@@ -42,12 +40,6 @@ class MainScreenTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        setAnimationsEnabled(false);
-        usePersianFont();
-    }
-
     // The last chosen city on the left, the screen opening on the first; the indicator moves the pages.
     void threeCitiesOpenOnTheFirstAndTheIndicatorMovesThePages()
     {

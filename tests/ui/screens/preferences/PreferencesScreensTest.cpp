@@ -1,7 +1,6 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "app/PersianFont.h"
 #include "screens/cities/CustomUITabBarController.h"
 #include "screens/main/MainViewController.h"
 #include "screens/preferences/HistoryViewController.h"
@@ -10,7 +9,6 @@
 #include "screens/preferences/SoundsViewController.h"
 #include "tests/support/TehranTime.h"
 #include "tests/ui/screens/ScreenFixture.h"
-#include "widgets/Animations.h"
 #include "widgets/PresentationStack.h"
 #include "widgets/ToggleSwitch.h"
 
@@ -97,12 +95,6 @@ class PreferencesScreensTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void initTestCase()
-    {
-        setAnimationsEnabled(false);
-        usePersianFont();
-    }
-
     void settingsSwitchesAndSlidersAreSavedAsShown()
     {
         Preferences f("Item3 = 15");
