@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "desktop/AudioModule.h"
-#include "desktop/LazyAudioPlayer.h"
 #include "desktop/QtNotificationService.h"
 #include "reminders/ReminderSound.h"
 #include "tests/support/FixedClock.h"
@@ -83,36 +82,6 @@ private slots:
         QCOMPARE(delivered.size(), std::size_t{2});
         QVERIFY(service.pending().empty());
         QCOMPARE(service.nextFireDate(), std::optional<Instant>());
-    }
-
-    // The multimedia module is loaded from the build tree on the first sound.
-    void theAudioModuleTellsSoundsFromOtherFiles_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("playable");
-        QTest::newRow("a shipped sound") << QStringLiteral("alarm.wav") << true;
-        QTest::newRow("text named as a sound") << QStringLiteral("words.wav") << false;
-        QTest::newRow("missing") << QStringLiteral("none.wav") << false;
-    }
-
-    void theAudioModuleTellsSoundsFromOtherFiles()
-    {
-        QFETCH(QString, name);
-        QFETCH(bool, playable);
-        QTemporaryDir folder;
-        const QString sound = folder.filePath(QStringLiteral("alarm.wav"));
-        QVERIFY(QFile::copy(QStringLiteral(KAVENDA_RESOURCE_DIR "/alarm.wav"), sound));
-        QFile words(folder.filePath(QStringLiteral("words.wav")));
-        QVERIFY(words.open(QIODevice::WriteOnly) && words.write(QByteArray(4096, 'a')) == 4096);
-        words.close();
-        const std::filesystem::path file = folder.filePath(name).toStdString();
-        QCOMPARE(AudioModule::isPlayable(file), playable);
-        LazyAudioPlayer audio;
-        QVERIFY(!audio.isPlaying());
-        // Opening reads no further than the file's being there.
-        QCOMPARE(audio.open(file), name != QStringLiteral("none.wav"));
-        audio.stop();
-        QVERIFY(!audio.isPlaying());
     }
 
     // An own recording that cannot be played never silences the call: the program's recording of

@@ -196,6 +196,8 @@ private slots:
         QTest::keyClick(list, Qt::Key_Delete);
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(names(list), (QStringList{QStringLiteral("تهران (تهران)"), QStringLiteral("اصفهان (اصفهان)")}));
+        QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));  // a removal renumbers nothing
+        QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);  // already the last row
         QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));
 
         QVERIFY(f.db->ExecuteNonQuery(
