@@ -67,11 +67,6 @@ void ScreenFixture::choose(std::initializer_list<int> stateIds)
         QVERIFY(db->ExecuteNonQuery(formatSql(sql::insertChosenCity, {id, ordering++})));
 }
 
-int ScreenFixture::centreNamed(const std::string& name)
-{
-    return std::stoi(query("SELECT StateID FROM tStates WHERE IsCenter = 1 AND Name = '" + name + "'"));
-}
-
 std::string ScreenFixture::query(const std::string& sql)
 {
     return db->ExecuteScaler(sql).value_or("<none>");
@@ -136,6 +131,14 @@ void ScreenFixture::clickRow(QListWidget* list, int row)
 {
     list->scrollToItem(list->item(row));
     QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
+}
+
+QStringList ScreenFixture::texts(const QListWidget* list)
+{
+    QStringList found;
+    for (int row = 0; row < list->count(); ++row)
+        found.append(list->item(row)->text());
+    return found;
 }
 
 void ScreenFixture::type(QWidget* field, const QString& text)

@@ -46,7 +46,6 @@ public:
 
     // Chooses the places in this order (Ordering 0, 1, ...).
     void choose(std::initializer_list<int> stateIds);
-    int centreNamed(const std::string& name);
     // The first value the query finds, or "<none>".
     std::string query(const std::string& sql);
     // "id:ordering" of the chosen cities in order.
@@ -58,6 +57,7 @@ public:
     void clickTab(int index);
     void click(const QString& objectName);
     static void clickRow(QListWidget* list, int row);
+    static QStringList texts(const QListWidget* list);
     // One key press per letter, as a Persian keyboard sends them (QTest types Latin letters only).
     static void type(QWidget* field, const QString& text);
     // The top of the cities' tab, and that tab's navigation.

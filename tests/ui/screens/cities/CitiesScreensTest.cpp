@@ -37,14 +37,6 @@ QListWidget* results(const ScreenFixture& f)
     return search(f)->findChild<QListWidget*>(QStringLiteral("tblResult"));
 }
 
-QStringList names(const QListWidget* list)
-{
-    QStringList found;
-    for (int row = 0; row < list->count(); ++row)
-        found.append(list->item(row)->text());
-    return found;
-}
-
 // Confirms the delete control of a row, as a user does: the control, then the delete button.
 void deleteRow(EditableCityList* list, int row)
 {
@@ -134,22 +126,22 @@ private slots:
         QVERIFY(search(f));
         auto* field = search(f)->findChild<QLineEdit*>(QStringLiteral("searchBar"));
         f.type(field, QStringLiteral("\u0643\u0631"));  // Arabic kaf
-        QCOMPARE(names(results(f)), QStringList{QStringLiteral("کرمان (کرمان)")});
+        QCOMPARE(f.texts(results(f)), QStringList{QStringLiteral("کرمان (کرمان)")});
         field->clear();
         f.type(field, QStringLiteral("\u0627\u0646"));
         QCOMPARE(results(f)->count(), 4);
         f.saveScreenshot(QStringLiteral("cities-search.png"));
-        f.clickRow(results(f), static_cast<int>(names(results(f)).indexOf(QStringLiteral("کرمان (کرمان)"))));
+        f.clickRow(results(f), static_cast<int>(f.texts(results(f)).indexOf(QStringLiteral("کرمان (کرمان)"))));
         QCOMPARE(f.citiesTop(), selection);
         QCOMPARE(f.orderings(), (QStringList{QStringLiteral("32:0"), QStringLiteral("35:2")}));
-        QCOMPARE(names(f.find<EditableCityList>()),
+        QCOMPARE(f.texts(f.find<EditableCityList>()),
                  (QStringList{QStringLiteral("تهران (تهران)"), QStringLiteral("کرمان (کرمان)")}));
 
         f.click(QStringLiteral("btnSearch"));
         f.type(search(f)->findChild<QLineEdit*>(), QStringLiteral("\u0627\u0646"));
         QListWidget* list = results(f);
         list->setFocus();
-        list->setCurrentRow(static_cast<int>(names(list).indexOf(QStringLiteral("اصفهان (اصفهان)"))));
+        list->setCurrentRow(static_cast<int>(f.texts(list).indexOf(QStringLiteral("اصفهان (اصفهان)"))));
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(f.orderings(), (QStringList{QStringLiteral("32:0"), QStringLiteral("35:2"), QStringLiteral("33:3")}));
         f.click(QStringLiteral("btnSearch"));
@@ -195,7 +187,8 @@ private slots:
         QCOMPARE(list->count(), 3);  // Enter while nothing is asked removes nothing
         QTest::keyClick(list, Qt::Key_Delete);
         QTest::keyClick(list, Qt::Key_Return);
-        QCOMPARE(names(list), (QStringList{QStringLiteral("تهران (تهران)"), QStringLiteral("اصفهان (اصفهان)")}));
+        const QStringList names{QStringLiteral("تهران (تهران)"), QStringLiteral("اصفهان (اصفهان)")};
+        QCOMPARE(f.texts(list), names);
         QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));  // a removal renumbers nothing
         QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);  // already the last row
         QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));
@@ -210,12 +203,12 @@ private slots:
             line = f.find<QLabel>(QStringLiteral("writeFailureLine"));
             QVERIFY(line && line->isVisible());
             QVERIFY(line->text().startsWith(QStringLiteral("ذخیره نشد")));
-            QCOMPARE(names(list).size(), 2);
+            QCOMPARE(f.texts(list), names);
             QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));
         }
         QVERIFY(f.db->ExecuteNonQuery("DROP TRIGGER refuse"));
         deleteRow(list, 1);
-        QCOMPARE(names(list).size(), 1);
+        QCOMPARE(f.texts(list).size(), 1);
         QVERIFY(!line->isVisible());
     }
 };

@@ -38,11 +38,7 @@ struct Editor : ScreenFixture {
     }
 
     bool saveEnabled() const { return find<QPushButton>(QStringLiteral("btnSave"))->isEnabled(); }
-    QString lastListed() const
-    {
-        const auto* list = find<EditableCityList>();
-        return list->item(list->count() - 1)->text();
-    }
+    QString lastListed() const { return texts(find<EditableCityList>()).last(); }
 
     void pickProvince(const QString& typed)
     {

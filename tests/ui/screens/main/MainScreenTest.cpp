@@ -168,7 +168,7 @@ private slots:
     void threeCitiesToday()
     {
         ScreenFixture f(SystemClock().now(), ScreenFixture::Data::generated);
-        f.choose({f.centreNamed("تهران"), f.centreNamed("اصفهان"), f.centreNamed("مشهد")});
+        f.choose({39, 35, 42});  // تهران, اصفهان, مشهد of the generated database
         f.show();
         QCOMPARE(f.pages().size(), 3);
         QVERIFY(!f.pages().last()[3].isEmpty());
