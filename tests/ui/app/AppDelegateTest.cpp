@@ -135,8 +135,6 @@ private slots:
         windowManagerSends(delegate->window(), QEvent::WindowActivate);
         delegate->didReceiveLocalNotification(record);
         QCOMPARE(alerts.messages, std::vector<std::string>{record.alertBody});
-        QCOMPARE(alerts.titles, std::vector<std::string>{std::string()});
-        QCOMPARE(alerts.buttons, std::vector<std::string>{"Ok"});
         QVERIFY(desktop.empty());
 
         windowManagerSends(delegate->window(), QEvent::WindowDeactivate);
@@ -182,19 +180,6 @@ private slots:
         // The notice's "خروج".
         quitFromNotice();
         QCOMPARE(quits.count(), 2);
-    }
-
-    void aStartInTheBackgroundShowsNoWindowTrayOrNone()
-    {
-        AppDelegate background(
-            AppServices{&clock, &calendar, &paths, &log, &notifications, &random, nullptr, nullptr, &alerts, &screen},
-            [](const NotificationRecord&) {});
-        background.setStartsInBackground(true);
-        QVERIFY(background.didFinishLaunchingWithOptions());
-        QTest::qWait(50);
-        QVERIFY(!background.window()->isVisible());
-        background.showWindow();
-        QVERIFY(background.window()->isVisible());
     }
 
 private:
