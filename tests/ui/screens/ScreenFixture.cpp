@@ -120,11 +120,9 @@ void ScreenFixture::clickTab(int index)
 
 void ScreenFixture::click(const QString& objectName)
 {
-    // Screens already closed may still wait to be deleted: the one on show is meant.
-    for (QAbstractButton* button : window_->findChildren<QAbstractButton*>(objectName))
-        if (button->isVisible())
-            return QTest::mouseClick(button, Qt::LeftButton);
-    QFAIL(qPrintable(QStringLiteral("no button %1 on show").arg(objectName)));
+    auto* button = find<QAbstractButton>(objectName);
+    QVERIFY2(button && button->isVisible(), qPrintable(objectName));
+    QTest::mouseClick(button, Qt::LeftButton);
 }
 
 void ScreenFixture::clickRow(QListWidget* list, int row)

@@ -64,9 +64,14 @@ public:
     QWidget* citiesTop() const;
     NavigationStack* citiesNavigation() const;
 
+    // The widget of that name on show: screens closed may still wait to be deleted.
     template <typename T = QWidget> T* find(const QString& objectName = {}) const
     {
-        return window_->findChild<T*>(objectName);
+        const QList<T*> all = window_->findChildren<T*>(objectName);
+        for (T* widget : all)
+            if (widget->isVisible())
+                return widget;
+        return all.value(0);
     }
     QWidget* top() const;
     // The main screen's pages from left to right, each the texts of its labels in their order.
