@@ -139,9 +139,10 @@ private slots:
         QVERIFY(!sliders[2]->isVisible());
     }
 
-    // A tap, Enter or a screen reader's press on a row previews and chooses it; leaving the tab
-    // stops the preview, and a dropped choice gives way to the stored one.
-    void soundRowsPreviewChooseAndSave()
+    // A tap, Enter or a screen reader's press on a row previews and chooses it; an own recording
+    // is checked, copied and played from then on; leaving the tab stops the preview, and a
+    // dropped choice gives way to the stored one.
+    void soundRowsAndOwnRecordings()
     {
         Preferences f("Item6 = 0");
         auto* screen = f.showTab<SoundsViewController>(2);
@@ -161,25 +162,7 @@ private slots:
         saveRefusedFirst(f, screen, screen->saveButton(), "Item6");
         QCOMPARE(f.setting("Item6"), "8");
 
-        f.audio.calls.clear();
-        rows->child(7)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QVERIFY(rows->child(7)->state().checked && rows->child(7)->state().selected);
-        QVERIFY(!rows->child(8)->state().checked);
-        QCOMPARE(f.audio.calls.back(), "play");
-        QString asked;
-        answerNextQuestion(QStringLiteral("دور انداختن"), &asked);
-        QVERIFY(f.showTab<HistoryViewController>(3));
-        QCOMPARE(f.audio.calls.back(), "stop");
-        QVERIFY(rows->child(8)->state().checked);
-        QCOMPARE(f.setting("Item6"), "8");
-    }
-
-    void anOwnRecordingIsCheckedCopiedAndPlayedFromThenOn()
-    {
-        Preferences f;
-        auto* screen = f.showTab<SoundsViewController>(2);
-        QVERIFY(screen);
-        auto* list = screen->findChild<QListWidget*>(QStringLiteral("tbl"));
+        // An own recording is checked, copied and played from then on.
         f.clickRow(list, 9);
         QVERIFY2(!screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile"))->isEnabled(),
                  "the random row has no recording of its own");
@@ -217,6 +200,18 @@ private slots:
         QVERIFY(!std::filesystem::exists(own));
         QCOMPARE(list->item(3)->text(), label);
         QVERIFY(!shipped->isEnabled());
+
+        f.audio.calls.clear();
+        rows->child(7)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QVERIFY(rows->child(7)->state().checked && rows->child(7)->state().selected);
+        QVERIFY(!rows->child(8)->state().checked);
+        QCOMPARE(f.audio.calls.back(), "play");
+        QString asked;
+        answerNextQuestion(QStringLiteral("دور انداختن"), &asked);
+        QVERIFY(f.showTab<HistoryViewController>(3));
+        QCOMPARE(f.audio.calls.back(), "stop");
+        QVERIFY(rows->child(8)->state().checked);
+        QCOMPARE(f.setting("Item6"), "8");
     }
 
     void anUnsavedChangeIsAskedForOnLeaving_data()
