@@ -57,7 +57,6 @@ public:
     void showDetails();
     void scrollViewDidEndScrollingAnimation();
 
-    const MonthGrid& grid() const { return grid_; }
     bool canChange() const { return grid_.canChange(); }
     // The day buttons of the month in the grid's month (during a slide, the page slid to), by day.
     std::map<int, DayButton*> dayButtons() const;

@@ -120,11 +120,6 @@ QScrollArea* NewCityController::tbl() const
     return ui_->tbl;
 }
 
-QLabel* NewCityController::failureLine() const
-{
-    return ui_->failureLine;
-}
-
 void NewCityController::buildNameSection(QWidget* content)
 {
     addSection(content, nameSectionY, 2);

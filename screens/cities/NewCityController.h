@@ -41,13 +41,10 @@ public:
     static QString offsetLabel(int index);
     static QString headerTitle();
 
-    const NewCityDraft& draft() const { return draft_; }
     QScrollArea* tbl() const;
     QLabel* sectionHeader() const { return sectionHeader_; }
     FineSlider* slider(int index) const { return sliders_[static_cast<std::size_t>(index)]; }
-    QLabel* valueLabel(int index) const { return valueLabels_[static_cast<std::size_t>(index)]; }
     QLabel* rowLabel(int index) const { return rowLabels_[static_cast<std::size_t>(index)]; }
-    QLabel* failureLine() const;
 
     // Shows every value from the draft again.
     void reloadData();

@@ -31,7 +31,6 @@ public:
     explicit SearchController(MyDB& db, int typeID = CitySearch::cityMode, QWidget* parent = nullptr);
     ~SearchController() override;
 
-    int typeID() const { return search_.typeID(); }
     SearchControllerDelegate* delegate() const { return delegate_; }
     void setDelegate(SearchControllerDelegate* delegate) { delegate_ = delegate; }
 

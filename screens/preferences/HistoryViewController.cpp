@@ -46,11 +46,6 @@ HistoryViewController::HistoryViewController(MyDB& db, const Paths& paths, Log* 
 
 HistoryViewController::~HistoryViewController() = default;
 
-QTimeEdit* HistoryViewController::picker() const
-{
-    return layout_->picker;
-}
-
 ToggleSwitch* HistoryViewController::switchOn() const
 {
     return layout_->switchOn;

@@ -12,7 +12,6 @@
 
 #include <memory>
 
-class QTimeEdit;
 
 namespace Ui {
 class HistoryViewController;
@@ -37,7 +36,6 @@ public:
     ~HistoryViewController() override;
 
     const OccasionTime& occasionTime() const { return occasionTime_; }
-    QTimeEdit* picker() const;
     ToggleSwitch* switchOn() const;
     QPushButton* saveButton() const { return saveButton_; }
 

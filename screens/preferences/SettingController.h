@@ -36,11 +36,7 @@ public:
 
     const ReminderSettings& settings() const { return settings_; }
     QPushButton* saveButton() const { return saveButton_; }
-    ToggleSwitch* switchOf(int item) const { return switches_.at(item); }
     // The warning's slider row (index = item − 3), shown while its switch is on.
-    QWidget* sliderRow(int index) const { return sliderRows_.at(index); }
-    QSlider* slider(int index) const { return sliders_.at(index); }
-    QLabel* number(int index) const { return numbers_.at(index); }
 
     void valueChanged(int item, bool on);
     void sliderChanged(int index, int position);

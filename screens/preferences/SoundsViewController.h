@@ -37,12 +37,10 @@ public:
                          QWidget* parent = nullptr);
     ~SoundsViewController() override;
 
-    const SoundChoice& choice() const { return choice_; }
     QListWidget* tbl() const;
     QPushButton* saveButton() const { return saveButton_; }
     // "صدای برنامه": the checked row plays the program's recording again.
     // The file dialog of "انتخاب فایل…" while it is open.
-    QFileDialog* fileDialog() const { return fileDialog_; }
 
     void didSelectRow(int row);
     bool hasUnsavedChange() const override { return choice_.saveEnabled(); }

@@ -1,0 +1,105 @@
+// SPDX-FileCopyrightText: 2026 Kavenda team
+// SPDX-License-Identifier: GPL-3.0-or-later
+
+#pragma once
+
+#include "data/MyDB.h"
+#include "desktop/FixedScreen.h"
+#include "desktop/SystemPersianCalendar.h"
+#include "reminders/MyNotification.h"
+#include "tests/support/FixedClock.h"
+#include "tests/support/FixedPaths.h"
+#include "tests/support/RecordingAlerts.h"
+#include "tests/support/RecordingAudioPlayer.h"
+#include "tests/support/RecordingLog.h"
+#include "tests/support/RecordingNotificationService.h"
+#include "tests/support/RecordingUrlOpener.h"
+#include "tests/support/ScriptedRandom.h"
+#include "tests/support/TempFolder.h"
+
+#include <QListWidget>
+#include <QStringList>
+#include <QWidget>
+
+#include <initializer_list>
+#include <memory>
+#include <optional>
+
+namespace kavenda {
+
+class CustomUITabBarController;
+class MainViewController;
+class NavigationStack;
+class PresentationStack;
+
+namespace test {
+
+// The program's screens in a window of the phone's size with the main screen at the root, on a
+// fixture database or the generated one, with a fixed clock, real reminders over a recording
+// notification service, and recording fakes for the rest.
+class ScreenFixture {
+public:
+    // The fixture's places and days for the main screen, or for the city list and its search.
+    enum class Data { mainScreen, cities, generated };
+    explicit ScreenFixture(Instant now, Data data = Data::mainScreen);
+    ~ScreenFixture();
+
+    // Chooses the places in this order (Ordering 0, 1, ...).
+    void choose(std::initializer_list<int> stateIds);
+    // The first value the query finds, or "<none>".
+    std::string query(const std::string& sql);
+    // "id:ordering" of the chosen cities in order.
+    QStringList orderings();
+    // Shows the window, which makes the main screen appear, and makes it the active window.
+    MainViewController& show();
+    // Clicks the main screen's options button.
+    CustomUITabBarController& openOptions();
+    void clickTab(int index);
+    void click(const QString& objectName);
+    static void clickRow(QListWidget* list, int row);
+    static QStringList texts(const QListWidget* list);
+    // One key press per letter, as a Persian keyboard sends them (QTest types Latin letters only).
+    static void type(QWidget* field, const QString& text);
+    // The top of the cities' tab, and that tab's navigation.
+    QWidget* citiesTop() const;
+    NavigationStack* citiesNavigation() const;
+
+    // The widget of that name on show: screens closed may still wait to be deleted.
+    template <typename T = QWidget> T* find(const QString& objectName = {}) const
+    {
+        const QList<T*> all = window_->findChildren<T*>(objectName);
+        for (T* widget : all)
+            if (widget->isVisible())
+                return widget;
+        return all.value(0);
+    }
+    QWidget* top() const;
+    // The main screen's pages from left to right, each the texts of its labels in their order.
+    QList<QStringList> pages() const;
+    void saveScreenshot(const QString& name);
+
+    TempFolder temp;
+    RecordingLog log;
+    FixedClock clock;
+    SystemPersianCalendar calendar;
+    FixedScreen screen;
+    RecordingNotificationService notifications;
+    ScriptedRandom random{{0}};
+    RecordingAudioPlayer audio;
+    RecordingAlerts alerts;
+    RecordingUrlOpener urls;
+    // Where the screens look: the generated resources, and the working copy's folder.
+    FixedPaths paths;
+    std::optional<MyDB> db;
+    std::optional<MyNotification> reminders;
+    int rebuilds = 0;
+    PresentationStack* presentation = nullptr;
+    MainViewController* main = nullptr;
+
+private:
+    FixedPaths dataPaths_;
+    std::unique_ptr<QWidget> window_;
+};
+
+}  // namespace test
+}  // namespace kavenda
