@@ -36,7 +36,7 @@ std::string zoneName(std::string_view path)
 
 SystemPersianCalendar::SystemPersianCalendar()
 {
-    tzset();
+    followSystemZone();
 }
 
 int SystemPersianCalendar::dayOfYear(int year, int month, int day) const
@@ -67,6 +67,11 @@ CivilTime SystemPersianCalendar::gregorianFields(Instant instant) const
 
 std::string SystemPersianCalendar::timeZoneId() const
 {
+    return zone_;
+}
+
+std::string SystemPersianCalendar::systemZoneName()
+{
     if (const char* variable = std::getenv("TZ"); variable && *variable)
         return zoneName(variable[0] == ':' ? variable + 1 : variable);
     std::error_code error;
@@ -80,10 +85,13 @@ std::string SystemPersianCalendar::timeZoneId() const
 
 bool SystemPersianCalendar::followSystemZone()
 {
-    const std::string before = timeZoneId();
     const long offsetBefore = offsetAt(std::time(nullptr));
     tzset();
-    return timeZoneId() != before || offsetAt(std::time(nullptr)) != offsetBefore;
+    // The name of the zone the C library now computes in, not of one the file may point to later.
+    std::string zone = systemZoneName();
+    const bool changed = zone != zone_ || offsetAt(std::time(nullptr)) != offsetBefore;
+    zone_ = std::move(zone);
+    return changed;
 }
 
 }  // namespace kavenda

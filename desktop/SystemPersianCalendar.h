@@ -5,6 +5,8 @@
 
 #include "platform/PersianCalendar.h"
 
+#include <string>
+
 namespace kavenda {
 
 // The Persian calendar in the system's time zone, read by the C library from the system's zone
@@ -21,6 +23,11 @@ public:
     std::string timeZoneId() const override;
     // Reads the system's time zone anew; true when it changed.
     bool followSystemZone();
+
+private:
+    static std::string systemZoneName();
+
+    std::string zone_;
 };
 
 }  // namespace kavenda
