@@ -11,6 +11,7 @@
 #include "tests/support/TehranTime.h"
 
 #include <algorithm>
+#include <tuple>
 
 namespace kavenda {
 namespace {
@@ -20,9 +21,6 @@ using test::tehran;
 class Reminders : public test::WorkingCopy {
 protected:
     Reminders() : WorkingCopy({"fixture-data.sql", "offset-city.sql"}) {}
-
-    void choose(int stateId) { exec("INSERT INTO tSelectedStates VALUES(" + std::to_string(stateId) + ", 1)"); }
-    void settings(const std::string& assignments) { exec("UPDATE tSetting SET " + assignments); }
 
     std::vector<NotificationRecord> update()
     {
@@ -46,16 +44,11 @@ protected:
 
 TEST_F(Reminders, ACentreWithEverythingOnJustAfterMidnightGetsSixADayForFiveDays)
 {
-    choose(32);
-    settings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 10, Item4 = 20, Item5 = 30, Item6 = 9");
+    choose({32});
+    setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 10, Item4 = 20, Item5 = 30, Item6 = 9");
     const auto records = update();
     ASSERT_EQ(records.size(), 30u);
-    const struct {
-        std::size_t index;
-        const char* body;
-        Instant at;
-        const char* sound;
-    } expected[] = {
+    const std::tuple<std::size_t, const char*, Instant, const char*> expected[] = {
         {0, "اذان صبح به افق تهران", tehran(2013, 5, 22, 5, 40), "3.wav"},  // 4:40 standard + summer hour
         {1, "اذان ظهر به افق تهران", tehran(2013, 5, 22, 12, 53), "7.wav"},
         {2, "اذان مغرب به افق تهران", tehran(2013, 5, 22, 20, 42), "1.wav"},  // 19:42 on 1 Khordad
@@ -64,15 +57,12 @@ TEST_F(Reminders, ACentreWithEverythingOnJustAfterMidnightGetsSixADayForFiveDays
         {5, "تا اذان مغرب تنها ٣٠ دقیفه زمان باقیست", tehran(2013, 5, 22, 20, 12), "12.wav"},
         {29, "تا اذان مغرب تنها ٣٠ دقیفه زمان باقیست", tehran(2013, 5, 26, 17, 54), "12.wav"},  // 5 Khordad
     };
-    for (const auto& e : expected) {
-        EXPECT_EQ(records[e.index].alertBody, e.body) << e.index;
-        EXPECT_EQ(records[e.index].fireDate, e.at) << e.index;
-        EXPECT_EQ(records[e.index].soundName, e.sound) << e.index;
-    }
-    for (const auto& record : records) {
-        EXPECT_EQ(record.alertAction, "Ok");
-        EXPECT_EQ(record.timeZone, "Asia/Tehran");
-    }
+    for (const auto& [index, body, at, sound] : expected)
+        EXPECT_EQ(std::tie(records[index].alertBody, records[index].fireDate, records[index].soundName),
+                  std::tuple(body, at, sound))
+            << index;
+    for (const auto& record : records)
+        EXPECT_EQ(record.alertAction + " " + record.timeZone, "Ok Asia/Tehran");
     // Sound 9 draws for every record; the log shows the number drawn, also beside a fixed sound.
     ASSERT_EQ(log.lines.size(), 30u);
     EXPECT_EQ(log.lines[0], "22 5 2013 / 5:40 - 3 - 3.wav");
@@ -84,8 +74,8 @@ TEST_F(Reminders, ACentreWithEverythingOnJustAfterMidnightGetsSixADayForFiveDays
 TEST_F(Reminders, AnOffsetCityIsShiftedPerColumnForFourDays)
 {
     clock.set(tehran(2013, 11, 11, 0, 1));  // 20 Aban 1392
-    choose(63);
-    settings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 15, Item4 = 30, Item5 = 10");
+    choose({63});
+    setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 15, Item4 = 30, Item5 = 10");
     const auto records = update();
     ASSERT_EQ(records.size(), 24u);
     EXPECT_EQ(records[0].alertBody, "اذان صبح به افق شهریار");
@@ -102,7 +92,7 @@ TEST_F(Reminders, AnOffsetCityIsShiftedPerColumnForFourDays)
 TEST_F(Reminders, TheFirstCityOfTheListIsAnnounced)
 {
     exec("INSERT INTO tSelectedStates VALUES(32, 2), (33, 1)");
-    settings("Item0 = 1, Item1 = 0, Item2 = 0");
+    setSettings("Item0 = 1, Item1 = 0, Item2 = 0");
     const auto records = update();
     ASSERT_EQ(records.size(), 5u);
     EXPECT_EQ(records[0].alertBody, "اذان صبح به افق اصفهان");
@@ -113,11 +103,7 @@ TEST_F(Reminders, TheFirstCityOfTheListIsAnnounced)
 // times unshifted, or with an offset read from a day's times.
 TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
 {
-    const struct {
-        const char* name;
-        int city;
-        std::vector<std::string> changes;
-    } cases[] = {
+    const std::tuple<const char*, int, std::vector<std::string>> cases[] = {
         {"no offset row", 63, {"DELETE FROM tTimes WHERE StateID = 63"}},
         {"a day's row instead",
          63,
@@ -127,17 +113,17 @@ TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
          {"INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES(20, 'اسلامشهر', 1, 0)",
           "INSERT INTO tTimes VALUES(20, 14000101, 1, 1, 1, 1, 1, 1)"}},
     };
-    settings("Item0 = 1, Item1 = 1, Item2 = 1, Item7 = '08:00'");
-    for (const auto& c : cases) {
+    setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item7 = '08:00'");
+    for (const auto& [name, city, changes] : cases) {
         exec("DELETE FROM tSelectedStates");
         exec("DELETE FROM tTimes WHERE StateID = 63");
         exec("INSERT INTO tTimes VALUES(63, 14000101, -3, 2, 5, 0, 7, 0)");
-        for (const std::string& change : c.changes)
+        for (const std::string& change : changes)
             exec(change);
-        choose(c.city);
+        choose({city});
         update();
-        EXPECT_EQ(withSound("0.wav"), 0u) << c.name;
-        EXPECT_EQ(withSound("times.wav"), 5u) << c.name;
+        EXPECT_EQ(withSound("0.wav"), 0u) << name;
+        EXPECT_EQ(withSound("times.wav"), 5u) << name;
     }
 }
 
@@ -145,13 +131,9 @@ TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
 // summer hour from 1402. The next five rows held are announced, whatever their dates.
 TEST_F(Reminders, EachDawnCallTakesTheSummerHourOfItsOwnDay)
 {
-    choose(32);
-    settings("Item0 = 1, Item1 = 0, Item2 = 0");
-    const struct {
-        Instant now;
-        std::size_t count, index;
-        Instant dawn;
-    } cases[] = {
+    choose({32});
+    setSettings("Item0 = 1, Item1 = 0, Item2 = 0");
+    const std::tuple<Instant, std::size_t, std::size_t, Instant> cases[] = {
         {tehran(2013, 9, 20, 0, 1), 5, 1, tehran(2013, 9, 21, 5, 40)},  // day 185: 4:40 + 1
         {tehran(2013, 9, 20, 0, 1), 5, 2, tehran(2013, 9, 22, 4, 41)},  // day 186: as stored
         {tehran(2014, 3, 18, 0, 1), 5, 2, tehran(2014, 3, 20, 4, 38)},  // 29 Esfand: as stored
@@ -161,11 +143,11 @@ TEST_F(Reminders, EachDawnCallTakesTheSummerHourOfItsOwnDay)
         {tehran(2013, 5, 22, 5, 40, 0), 5, 0, tehran(2013, 5, 22, 5, 40)},  // a moment equal to now goes out
         {tehran(2013, 5, 22, 5, 40, 1), 4, 0, tehran(2013, 5, 23, 5, 41)},  // a second late it does not
     };
-    for (const auto& c : cases) {
-        clock.set(c.now);
+    for (const auto& [now, count, index, dawn] : cases) {
+        clock.set(now);
         const auto records = update();
-        ASSERT_EQ(records.size(), c.count) << c.index;
-        EXPECT_EQ(records[c.index].fireDate, c.dawn) << c.index;
+        ASSERT_EQ(records.size(), count) << index;
+        EXPECT_EQ(records[index].fireDate, dawn) << index;
     }
 }
 
@@ -173,8 +155,8 @@ TEST_F(Reminders, ADayWithoutATimeHasNoReminderForIt)
 {
     exec("UPDATE tTimes SET T3 = NULL WHERE StateID = 32 AND Date = 920302");
     exec("UPDATE tTimes SET T3 = '' WHERE StateID = 32 AND Date = 920303");
-    choose(32);
-    settings("Item0 = 0, Item1 = 1, Item2 = 0");
+    choose({32});
+    setSettings("Item0 = 0, Item1 = 1, Item2 = 0");
     const auto records = update();
     ASSERT_EQ(records.size(), 3u);
     EXPECT_EQ(records[1].fireDate, tehran(2013, 5, 25, 12, 49));  // 920304's 11:49 + 1
@@ -182,8 +164,8 @@ TEST_F(Reminders, ADayWithoutATimeHasNoReminderForIt)
 
 TEST_F(Reminders, AFixedSoundAndTheOccasionsSound)
 {
-    choose(32);
-    settings("Item0 = 1, Item1 = 1, Item2 = 1, Item6 = 10, Item7 = '08:00'");
+    choose({32});
+    setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item6 = 10, Item7 = '08:00'");
     update();
     EXPECT_EQ(withSound("10.wav"), 15u);
     EXPECT_EQ(withSound("times.wav"), notifications.records.size() - 15);
@@ -192,7 +174,7 @@ TEST_F(Reminders, AFixedSoundAndTheOccasionsSound)
 
 TEST_F(Reminders, NoChosenCitySchedulesNothingAtAll)
 {
-    settings("Item0 = 1, Item7 = '08:00'");
+    setSettings("Item0 = 1, Item7 = '08:00'");
     notifications.records.push_back(NotificationRecord{});
     EXPECT_TRUE(update().empty());
     EXPECT_EQ(notifications.cancelCalls, 1);
@@ -201,8 +183,8 @@ TEST_F(Reminders, NoChosenCitySchedulesNothingAtAll)
 
 TEST_F(Reminders, OccasionsAtTheChosenWallClockTime)
 {
-    choose(32);
-    settings("Item0 = 0, Item1 = 0, Item2 = 0, Item7 = '08:00'");
+    choose({32});
+    setSettings("Item0 = 0, Item1 = 0, Item2 = 0, Item7 = '08:00'");
     clock.set(tehran(2013, 5, 23, 7, 0));  // 2 Khordad, before eight
     auto records = update();
     ASSERT_EQ(records.size(), 5u);
@@ -219,7 +201,7 @@ TEST_F(Reminders, OccasionsAtTheChosenWallClockTime)
     EXPECT_EQ(records[0].fireDate, tehran(2013, 5, 25, 8, 0));
 
     for (const char* off : {"0", "", "8", "abc"}) {
-        settings(std::string("Item7 = '") + off + "'");
+        setSettings(std::string("Item7 = '") + off + "'");
         log.lines.clear();
         EXPECT_TRUE(update().empty()) << off;
         EXPECT_TRUE(log.lines.empty()) << off;

@@ -22,15 +22,6 @@ protected:
         exec("CREATE TRIGGER refuse BEFORE " + action + " ON " + table + " BEGIN SELECT RAISE(ABORT, 'full'); END");
     }
     void allow() { exec("DROP TRIGGER refuse"); }
-
-    std::string stored(const std::string& sql)
-    {
-        std::string text;
-        for (const auto& row : db.Execute(sql))
-            for (const auto& [column, value] : row)
-                text += column + "=" + value + " ";
-        return text;
-    }
 };
 
 TEST_F(FailedWritesTest, SettingsSoundAndOccasionsKeepTheirValuesUntilSaved)
@@ -52,39 +43,38 @@ TEST_F(FailedWritesTest, SettingsSoundAndOccasionsKeepTheirValuesUntilSaved)
         std::function<bool()> save;
         std::function<bool()> saveEnabled;
         std::function<bool()> holds;
-        std::string stored;
+        int item;
     } cases[] = {
         {"settings",  [&] { return settings.save(); },  [&] { return settings.saveEnabled(); },
-                      [&] { return !settings.isOn(0); },                  "SELECT Item0 FROM tSetting"},
+                      [&] { return !settings.isOn(0); },                  0},
         {"sound",     [&] { return sound.save(); },     [&] { return sound.saveEnabled(); },
-                      [&] { return sound.selectedPath() == 7; },          "SELECT Item6 FROM tSetting"},
+                      [&] { return sound.selectedPath() == 7; },          6},
         {"occasions", [&] { return occasions.save(); }, [&] { return occasions.saveEnabled(); },
-                      [&] { return occasions.currentDate() == "09:30"; }, "SELECT Item7 FROM tSetting"},
+                      [&] { return occasions.currentDate() == "09:30"; }, 7},
     };
     // clang-format on
     for (const auto& c : cases) {
-        const std::string before = stored(c.stored);
+        const std::string before = setting(c.item);
         refuse("tSetting", "UPDATE");
         EXPECT_FALSE(c.save()) << c.screen;
-        EXPECT_EQ(stored(c.stored), before) << c.screen;
+        EXPECT_EQ(setting(c.item), before) << c.screen;
         EXPECT_TRUE(c.saveEnabled()) << c.screen << ": Save stays, to try again";
         EXPECT_TRUE(c.holds()) << c.screen;
         allow();
         EXPECT_TRUE(c.save()) << c.screen;
         EXPECT_FALSE(c.saveEnabled()) << c.screen;
-        EXPECT_NE(stored(c.stored), before) << c.screen;
+        EXPECT_NE(setting(c.item), before) << c.screen;
     }
 }
 
 TEST_F(FailedWritesTest, ARemovedCityOfOurOwnGoesWholeOrStays)
 {
-    choose(32, 0);
-    choose(63, 1);
+    choose({32, 63});
     ChosenCities cities(db, [] {});
     cities.updateDataSource();
     const auto everything = [this] {
-        return stored("SELECT * FROM tSelectedStates ORDER BY StateID") + stored("SELECT * FROM tStates")
-            + stored("SELECT * FROM tTimes WHERE StateID = 63");
+        return rowsText({"SELECT * FROM tSelectedStates ORDER BY StateID", "SELECT * FROM tStates",
+                         "SELECT * FROM tTimes WHERE StateID = 63"});
     };
     const std::string before = everything();
     refuse("tTimes", "DELETE");

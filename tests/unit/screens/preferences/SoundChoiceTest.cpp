@@ -36,11 +36,19 @@ protected:
     // Loads and builds every row, as the screen shows them.
     void show(const std::string& item6)
     {
-        exec("UPDATE tSetting SET Item6 = " + item6);
+        setSettings("Item6 = " + item6);
         choice.load();
         for (int row = 0; row < SoundChoice::rowCount; ++row)
             choice.cellForRow(row);
         audio.calls.clear();
+    }
+
+    // What the player was asked on a tap of the row.
+    Calls tap(int row)
+    {
+        audio.calls.clear();
+        choice.didSelectRow(row);
+        return audio.calls;
     }
 
     test::RecordingAudioPlayer audio;
@@ -61,23 +69,13 @@ TEST_F(SoundChoiceTest, TheStoredRowCarriesTheCheckmark)
 TEST_F(SoundChoiceTest, ATapPreviewsTheRowAndEnablesSaveWhenItDiffersFromTheStoredOne)
 {
     show("9");
-    choice.didSelectRow(9);
-    EXPECT_EQ(audio.calls, (Calls{"open " + resourceFile(9)})) << "the random row plays nothing";
+    EXPECT_EQ(tap(9), (Calls{"open " + resourceFile(9)})) << "the random row plays nothing";
     EXPECT_FALSE(choice.saveEnabled());
-
-    audio.calls.clear();
-    choice.didSelectRow(7);
-    EXPECT_EQ(audio.calls, (Calls{"open " + resourceFile(7), "play"}));
+    EXPECT_EQ(tap(7), (Calls{"open " + resourceFile(7), "play"}));
     EXPECT_EQ(choice.selectedPath(), 7);
     EXPECT_TRUE(choice.saveEnabled());
-
-    audio.calls.clear();
-    choice.didSelectRow(8);
-    EXPECT_EQ(audio.calls, (Calls{"stop", "open " + resourceFile(8), "play"})) << "the first preview stops first";
-
-    audio.calls.clear();
-    choice.didSelectRow(9);
-    EXPECT_EQ(audio.calls, (Calls{"stop", "open " + resourceFile(9)}));
+    EXPECT_EQ(tap(8), (Calls{"stop", "open " + resourceFile(8), "play"})) << "the first preview stops first";
+    EXPECT_EQ(tap(9), (Calls{"stop", "open " + resourceFile(9)}));
     EXPECT_FALSE(choice.saveEnabled()) << "back on the stored row";
 }
 
@@ -86,10 +84,10 @@ TEST_F(SoundChoiceTest, SaveStoresTheCheckedRowAndStopsOnlyAStartedPreview)
     show("0");
     choice.stopPreview();
     EXPECT_TRUE(audio.calls.empty());
-    choice.didSelectRow(7);
+    tap(7);
     audio.calls.clear();
     choice.save();
-    EXPECT_EQ(scalar("SELECT Item6 FROM tSetting"), "7");
+    EXPECT_EQ(setting(6), "7");
     EXPECT_EQ(choice.selected(), 7);
     EXPECT_FALSE(choice.saveEnabled());
     choice.stopPreview();
@@ -99,11 +97,10 @@ TEST_F(SoundChoiceTest, SaveStoresTheCheckedRowAndStopsOnlyAStartedPreview)
 
     // A missing recording plays nothing but can still be saved.
     fs::remove(resourceFile(4));
-    audio.calls.clear();
-    choice.didSelectRow(4);
+    EXPECT_EQ(tap(4), (Calls{"stop", "open " + resourceFile(4)}));
     choice.save();
-    EXPECT_EQ(scalar("SELECT Item6 FROM tSetting"), "4");
-    EXPECT_EQ(audio.calls, (Calls{"stop", "open " + resourceFile(4)})) << "no player, nothing to stop";
+    EXPECT_EQ(setting(6), "4");
+    EXPECT_EQ(audio.calls.back(), "open " + resourceFile(4)) << "no player, nothing to stop";
 }
 
 TEST_F(SoundChoiceTest, AnOwnRecordingIsCopiedUnderTheRowsNameAndPreferredFromThenOn)
@@ -123,8 +120,7 @@ TEST_F(SoundChoiceTest, AnOwnRecordingIsCopiedUnderTheRowsNameAndPreferredFromTh
     EXPECT_EQ(soundFile(paths, "8.wav"), paths.resourceFolder() / "8.wav");
 
     show("0");
-    choice.didSelectRow(7);
-    EXPECT_EQ(audio.calls, (Calls{"open " + own.string(), "play"}));
+    EXPECT_EQ(tap(7), (Calls{"open " + own.string(), "play"}));
 
     write(source, "newer");
     EXPECT_EQ(choice.useOwnRecording(7, source, playable), SoundChoice::OwnRecording::copied);
