@@ -5,6 +5,8 @@
 
 #include "data/DataFolderLock.h"
 #include "data/DatabaseCheck.h"
+#include "data/IntValue.h"
+#include "data/NameMatching.h"
 #include "tests/support/FixtureDatabase.h"
 
 #include <sqlite3.h>
@@ -15,6 +17,7 @@
 #include <functional>
 #include <optional>
 #include <thread>
+#include <tuple>
 
 #include <sys/resource.h>
 
@@ -207,6 +210,53 @@ TEST(DatabaseCheck, AShippedDatabaseThatCannotServeIsNamed)
         EXPECT_NE(problem->message.find(file.string()), std::string::npos) << what;
         EXPECT_NE(problem->message.find("دوباره نصب"), std::string::npos) << what;
     }
+}
+
+TEST(IntValue, ReadsLeadingDigitsLikeThePlatform)
+{
+    const std::pair<const char*, int> cases[] = {{"15", 15},  {"4:35", 4}, {"", 0},   {"abc", 0},
+                                                 {"  -3", -3}, {"+7x", 7},  {"-", 0},  {"08", 8},
+                                                 {"99999999999", 2147483647}, {"-99999999999", -2147483647 - 1}};
+    for (const auto& [text, value] : cases)
+        EXPECT_EQ(intValue(text), value) << '"' << text << '"';
+}
+
+constexpr const char* joiner = "\u200C";
+
+TEST(NameMatching, MatchesAsLikeDoesWithoutMindingNonJoiners)
+{
+    const std::string withJoiner = std::string("خرم") + joiner + "آباد";
+    // clang-format off
+    const std::tuple<std::string, std::string, bool> cases[] = {
+        {"%%", "تهران", true},
+        {"%هرا", "تهران", false},
+        {"ته%", "تهران", true},
+        {"ت_ران", "تهران", true},     // "_" is one letter, not one byte
+        {"%ABC%", "xabcx", true},      // Latin letters in either case
+        {"%ي%", "ی", false},           // Arabic and Persian yeh stay different letters
+        {"%a%b%c", "aXbXbc", true},    // a later try of a "%" after a first one failed
+        {"%خرمآباد%", withJoiner, true},
+        {"%" + withJoiner + "%", "خرمآباد", true},
+        {std::string("%خرم") + joiner + "%", "شهر خرمآباد", true},
+        {"%خرم آباد%", withJoiner, false},  // a blank is not a non-joiner
+        {"9201__", "9201011", false},
+        {std::string("\xFF%"), "\xFF" "x", true},  // a stray byte matches itself
+    };
+    // clang-format on
+    for (const auto& [pattern, text, matches] : cases)
+        EXPECT_EQ(likeMatches(pattern, text), matches) << pattern << " / " << text;
+}
+
+using NameMatchingInTheDatabase = test::WorkingCopy;
+
+TEST_F(NameMatchingInTheDatabase, EveryLikeMatchesThatWay)
+{
+    ASSERT_TRUE(db.ExecuteNonQuery(std::string("INSERT INTO tStates(StateID, Name, ParentID) VALUES(9, 'خرم") + joiner
+                                   + "آباد', 1)"));
+    EXPECT_EQ(db.ExecuteScaler("SELECT StateID FROM tStates WHERE Name LIKE '%خرمآباد%'"), "9");
+    EXPECT_EQ(db.ExecuteScaler("SELECT COUNT(*) FROM tEvents WHERE Date LIKE '9202__'"),
+              db.ExecuteScaler("SELECT COUNT(*) FROM tEvents WHERE Date BETWEEN 920200 AND 920299"))
+        << "integer date keys are matched by their decimal text";
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
+#include "reminders/NextReminderText.h"
 
 #include <algorithm>
 #include <tuple>
@@ -206,6 +207,40 @@ TEST_F(Reminders, OccasionsAtTheChosenWallClockTime)
         EXPECT_TRUE(update().empty()) << off;
         EXPECT_TRUE(log.lines.empty()) << off;
     }
+}
+
+// The tray's line: the earliest pending reminder, its time and the time left (a part of a minute
+// counts as a whole one).
+TEST(NextReminderText, NamesTheEarliestCallItsTimeAndTheTimeLeft)
+{
+    const auto reminder = [](Instant at, const std::string& body) {
+        return NotificationRecord{at, "Asia/Tehran", body, "Ok", "0.wav", {}};
+    };
+    SystemPersianCalendar calendar;
+    const Instant at = tehran(2026, 11, 22, 17, 13);
+    // clang-format off
+    const std::pair<Instant, std::string> cases[] = {
+        {tehran(2026, 11, 22, 14, 58), "٢ ساعت و ١٥ دقیقه"},
+        {tehran(2026, 11, 22, 14, 58, 30), "٢ ساعت و ١٥ دقیقه"},
+        {tehran(2026, 11, 22, 15, 13), "٢ ساعت"},
+        {tehran(2026, 11, 22, 17, 0), "١٣ دقیقه"},
+        {tehran(2026, 11, 22, 17, 12, 59), "١ دقیقه"},
+        {tehran(2026, 11, 20, 16, 3), "٢ روز و ١ ساعت و ١٠ دقیقه"},
+        {at, "کمتر از یک دقیقه"},
+    };
+    // clang-format on
+    for (const auto& [now, left] : cases)
+        EXPECT_EQ(nextReminderText({reminder(at, "اذان مغرب به افق تهران")}, now, calendar),
+                  "اذان مغرب به افق تهران، ١٧:١٣ (" + left + " دیگر)");
+
+    const std::vector<NotificationRecord> pending = {
+        reminder(tehran(2026, 11, 22, 11, 50), "اذان ظهر به افق تهران"),
+        reminder(tehran(2026, 11, 22, 8, 5), "وقایع امروز : \nروز ملی"),
+        reminder(tehran(2026, 11, 23, 5, 0), "اذان صبح به افق تهران"),
+    };
+    const Instant morning = tehran(2026, 11, 22, 6, 0);
+    EXPECT_EQ(nextReminderText(pending, morning, calendar), "وقایع امروز :  روز ملی، ٠٨:٠٥ (٢ ساعت و ٥ دقیقه دیگر)");
+    EXPECT_EQ(nextReminderText({}, morning, calendar), "");
 }
 
 }  // namespace

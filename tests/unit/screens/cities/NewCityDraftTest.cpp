@@ -6,8 +6,16 @@
 #include "screens/cities/CitySearch.h"
 #include "tests/unit/screens/cities/CitiesFixture.h"
 
+#include <chrono>
+#include <csignal>
 #include <functional>
+#include <iostream>
 #include <limits>
+#include <random>
+#include <thread>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace kavenda {
 namespace {
@@ -131,6 +139,51 @@ TEST_F(NewCityDraftTest, AFailedWriteTakesBackWhatWasWrittenAndAttachesNothingEl
     // The database is whole again: the same draft now goes through.
     EXPECT_TRUE(jahrom().save());
     EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0", "64:2"}));
+}
+
+// A process killed (kill -9) while it saves new cities leaves each of them whole or absent: a
+// place with its offset row and its place in the list, never a part of them.
+using KilledSaveTest = NewCityDraftTest;
+
+TEST_F(KilledSaveTest, ACityIsSavedWholeOrNotAtAll)
+{
+    constexpr int tries = 40;
+    std::mt19937 random(20261124);
+    std::uniform_int_distribution<int> delay(1, 40);
+    int killedMidway = 0;
+    for (int attempt = 0; attempt < tries; ++attempt) {
+        const pid_t child = ::fork();
+        ASSERT_GE(child, 0);
+        if (child == 0) {
+            MyDB own("Icons", paths, log);
+            for (;;) {
+                NewCityDraft draft(own);
+                draft.commitName("جهرم");
+                draft.setProvince(1, "تهران");
+                draft.setOffset(0, -3);
+                draft.save();
+            }
+        }
+        std::this_thread::sleep_for(std::chrono::milliseconds(delay(random)));
+        ::kill(child, SIGKILL);
+        int status = 0;
+        ::waitpid(child, &status, 0);
+        killedMidway += WIFSIGNALED(status) ? 1 : 0;
+        // Parts of cities made here (identifiers above the fixture's) that lack another part.
+        ASSERT_EQ(count("SELECT COUNT(*) FROM tStates s WHERE s.StateID > 63 AND ("
+                        "(SELECT COUNT(*) FROM tTimes t WHERE t.StateID = s.StateID) != 1 OR "
+                        "(SELECT COUNT(*) FROM tSelectedStates c WHERE c.StateID = s.StateID) != 1)")
+                      + count("SELECT COUNT(*) FROM tTimes WHERE StateID > 63 AND StateID NOT IN "
+                              "(SELECT StateID FROM tStates)")
+                      + count("SELECT COUNT(*) FROM tSelectedStates WHERE StateID > 63 AND StateID NOT IN "
+                              "(SELECT StateID FROM tStates)"),
+                  0)
+            << "after kill " << attempt + 1;
+    }
+    const int whole = count("SELECT COUNT(*) FROM tStates WHERE StateID > 63");
+    std::cout << "killed during save: " << killedMidway << " of " << tries << " tries, " << whole << " whole cities\n";
+    EXPECT_EQ(killedMidway, tries);
+    EXPECT_GT(whole, 0) << "the saves ran";
 }
 
 }  // namespace

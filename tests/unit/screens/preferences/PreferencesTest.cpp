@@ -1,12 +1,15 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "screens/preferences/AboutRows.h"
+#include "screens/preferences/OccasionTime.h"
 #include "screens/preferences/ReminderSettings.h"
-
 #include "tests/support/FixtureDatabase.h"
+#include "tests/support/RecordingUrlOpener.h"
 
 #include <array>
 #include <functional>
+#include <tuple>
 
 namespace kavenda {
 namespace {
@@ -14,15 +17,21 @@ namespace {
 using Flags = std::array<int, ReminderSettings::itemCount>;
 using Change = ReminderSettings::RowChange;
 
-// Public, for the edit steps of the table below.
+// Public, for the edit steps of the tables below.
 class ReminderSettingsTest : public test::WorkingCopy {
 public:
     std::vector<std::string> storedItems()
     {
         std::vector<std::string> values;
         for (int item = 0; item < ReminderSettings::itemCount; ++item)
-            values.push_back(scalar("SELECT Item" + std::to_string(item) + " FROM tSetting"));
+            values.push_back(setting(item));
         return values;
+    }
+
+    void loadOccasions(const std::string& item7)
+    {
+        setSettings("Item7 = '" + item7 + "'");
+        occasions.load();
     }
 
     // Flips a switch as the screen does, with the rows its section showed before.
@@ -33,7 +42,9 @@ public:
     }
 
     ReminderSettings settings{db};
+    OccasionTime occasions{db, &log};
 };
+using OccasionTimeTest = ReminderSettingsTest;
 
 TEST_F(ReminderSettingsTest, LoadsTheStoredRow)
 {
@@ -59,7 +70,7 @@ TEST_F(ReminderSettingsTest, LoadsTheStoredRow)
     // clang-format on
     for (const Case& c : cases) {
         SCOPED_TRACE(c.row);
-        exec(std::string("UPDATE tSetting SET ") + c.row);
+        setSettings(c.row);
         settings.load();
         EXPECT_EQ(settings.notifications(), c.flags);
         for (int index = 0; index < 3; ++index) {
@@ -87,13 +98,8 @@ TEST_F(ReminderSettingsTest, SwitchesInsertAndRemoveTheirSliderRowOnlyForWarning
 
 TEST_F(ReminderSettingsTest, SavesWhatTheScreenHolds)
 {
-    struct Case {
-        const char* name;
-        std::function<void(ReminderSettingsTest&)> edit;
-        std::vector<std::string> stored;
-    };
     // clang-format off
-    const std::vector<Case> cases = {
+    const std::tuple<const char*, std::function<void(ReminderSettingsTest&)>, std::vector<std::string>> cases[] = {
         {"dawn on, noon off, evening on, sunrise 10, suhur off, iftar 30", [](ReminderSettingsTest& t) {
              t.flip(1, false); t.flip(3, true); t.settings.sliderChanged(0, 1); t.flip(5, true);
              t.settings.sliderChanged(2, 5); }, {"1", "0", "1", "10", "0", "30"}},
@@ -108,21 +114,21 @@ TEST_F(ReminderSettingsTest, SavesWhatTheScreenHolds)
          {"1", "1", "1", "0", "20", "0"}},
     };
     // clang-format on
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        exec("UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 0, Item4 = 0, Item5 = 0");
+    for (const auto& [name, edit, stored] : cases) {
+        SCOPED_TRACE(name);
+        setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 0, Item4 = 0, Item5 = 0");
         settings.load();
-        c.edit(*this);
+        edit(*this);
         EXPECT_TRUE(settings.saveEnabled());
         settings.save();
-        EXPECT_EQ(storedItems(), c.stored);
+        EXPECT_EQ(storedItems(), stored);
         EXPECT_FALSE(settings.saveEnabled());
     }
 }
 
 TEST_F(ReminderSettingsTest, AfterSaveTheFlagsAreBackToOneAndAStoredOddLeadSurvives)
 {
-    exec("UPDATE tSetting SET Item3 = 7, Item5 = 25");
+    setSettings("Item3 = 7, Item5 = 25");
     settings.load();
     flip(1, false);
     settings.save();
@@ -130,6 +136,66 @@ TEST_F(ReminderSettingsTest, AfterSaveTheFlagsAreBackToOneAndAStoredOddLeadSurvi
     EXPECT_EQ(storedItems(), (std::vector<std::string>{"1", "0", "1", "7", "0", "25"}));
     flip(1, true);
     EXPECT_TRUE(settings.saveEnabled()) << "the next change enables Save again";
+}
+
+TEST_F(OccasionTimeTest, LoadsTheStoredTime)
+{
+    // Without ":" it is off, as the reminders read it.
+    const std::tuple<const char*, bool, int, int> cases[] = {
+        {"0", false, 8, 0}, {"21:05", true, 21, 5}, {"7:5", true, 7, 5}, {"830", false, 8, 0}, {"31:75", true, 23, 59}};
+    for (const auto& [item7, on, hour, minute] : cases) {
+        loadOccasions(item7);
+        EXPECT_EQ(std::tuple(occasions.isOn(), occasions.hour(), occasions.minute(), occasions.saveEnabled()),
+                  std::tuple(on, hour, minute, false))
+            << item7;
+    }
+}
+
+TEST_F(OccasionTimeTest, SavesTheTimeInTwoDigitsOrZeroForOff)
+{
+    const std::tuple<const char*, std::function<void(OccasionTime&)>, std::string> cases[] = {
+        {"0", [](OccasionTime& o) { o.valueChanged(true); }, "08:00"},  // the picker untouched
+        {"7:5", [](OccasionTime& o) { o.valueChanged(false); o.valueChanged(true); }, "07:05"},
+        {"06:30", [](OccasionTime& o) { o.pickerValueChanged(6, 45); o.valueChanged(false); }, "0"},
+    };
+    for (const auto& [item7, edit, saved] : cases) {
+        loadOccasions(item7);
+        log.lines.clear();
+        edit(occasions);
+        EXPECT_TRUE(occasions.saveEnabled()) << item7;
+        EXPECT_TRUE(occasions.save()) << item7;
+        EXPECT_EQ(setting(7), saved) << item7;
+        EXPECT_EQ(log.lines, std::vector<std::string>{saved});
+        EXPECT_FALSE(occasions.saveEnabled()) << item7;
+    }
+    // Saved off, the picker's last time is offered again, compared with the "0" just saved.
+    occasions.valueChanged(true);
+    EXPECT_EQ(occasions.currentDate(), "06:45");
+    EXPECT_TRUE(occasions.saveEnabled());
+}
+
+TEST_F(OccasionTimeTest, SaveIsEnabledExactlyWhileTheValueDiffersFromTheStoredOne)
+{
+    loadOccasions("21:05");
+    occasions.pickerValueChanged(22, 10);
+    EXPECT_TRUE(occasions.saveEnabled());
+    occasions.pickerValueChanged(21, 5);
+    EXPECT_FALSE(occasions.saveEnabled()) << "21:05 chosen again";
+    occasions.valueChanged(false);
+    EXPECT_TRUE(occasions.saveEnabled());
+    occasions.valueChanged(true);
+    EXPECT_FALSE(occasions.saveEnabled()) << "off and on again at the stored time";
+}
+
+TEST(AboutRowsTest, TheWebRowOpensTheSiteAndEveryOtherRowAMail)
+{
+    const AboutRows rows("https://example.net/k", "help@example.net");
+    test::RecordingUrlOpener urls;
+    for (int row = 0; row <= AboutRows::rowCount; ++row)
+        rows.didSelectRow(row, urls);
+    const std::string mail = "mailto:?to=help@example.net&subject=KavendaV1.5";
+    EXPECT_EQ(urls.opened, (std::vector<std::string>{mail, mail, mail, mail, "https://example.net/k"}))
+        << "a row past the end opens nothing";
 }
 
 }  // namespace
