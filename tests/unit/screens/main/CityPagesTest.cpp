@@ -7,6 +7,13 @@
 #include "desktop/SystemPersianCalendar.h"
 #include "tests/support/FixtureDatabase.h"
 #include "screens/main/DayPage.h"
+#include "reminders/MyNotification.h"
+#include "screens/cities/ChosenCities.h"
+#include "screens/cities/CitySearch.h"
+#include "tests/support/FixedClock.h"
+#include "tests/support/RecordingNotificationService.h"
+#include "tests/support/ScriptedRandom.h"
+#include "tests/support/TehranTime.h"
 
 #include <optional>
 #include <tuple>
@@ -155,6 +162,50 @@ TEST(DayPageTest, SummerHourFollowsTheDayOfEachTime)
         EXPECT_EQ(date.dayOfYear(), dayOfYear);  // shared with the other pages: left as it was
     }
 }
+
+// A working copy whose columns were renamed by hand or by another program: every screen's
+// data layer and the scheduler read what they can and never throw, and every chosen city
+// keeps its page (a renamed tStates.Name used to abort the program as the main screen was built).
+class DamagedSchema : public test::WorkingCopy,
+                      public ::testing::WithParamInterface<std::pair<std::string, std::string>> {
+protected:
+    DamagedSchema() : WorkingCopy({"fixture-data.sql", "offset-city.sql"})
+    {
+        choose({32, 63});
+        setSettings("Item0 = 1, Item3 = 1, Item7 = '8:30'");
+        exec("ALTER TABLE " + GetParam().first + " RENAME COLUMN " + GetParam().second + " TO Renamed");
+    }
+};
+
+TEST_P(DamagedSchema, NoScreenAndNoRebuildThrows)
+{
+    FixedClock clock{test::tehran(2013, 5, 22, 0, 1)};
+    SystemPersianCalendar calendar;
+    CityPages pages(db);
+    EXPECT_NO_THROW(pages.updateDataSource(DateTimePersian::init(clock, calendar)));
+    if (GetParam().second == "Name") {
+        EXPECT_EQ(pages.datasource().size(), 2u);
+    }
+    for (const Row& page : pages.datasource())
+        EXPECT_EQ(page.count("Name"), 1u);
+
+    test::RecordingNotificationService notifications;
+    test::ScriptedRandom random{{3, 7, 1}};
+    MyNotification scheduler(db, clock, calendar, notifications, random, log);
+    EXPECT_NO_THROW(scheduler.update());
+
+    ChosenCities chosen(db, [] {});
+    EXPECT_NO_THROW(chosen.updateDataSource());
+    CitySearch search(db);
+    EXPECT_NO_THROW(search.updateDataSource("ت"));
+}
+
+INSTANTIATE_TEST_SUITE_P(RenamedColumns, DamagedSchema,
+                         ::testing::ValuesIn(std::vector<std::pair<std::string, std::string>>{
+                             {"tStates", "Name"}, {"tStates", "IsCenter"}, {"tStates", "StateID"},
+                             {"tStates", "ParentID"}, {"tSelectedStates", "Ordering"}, {"tTimes", "T1"},
+                             {"tEvents", "Description"}, {"tSetting", "Item7"}}),
+                         [](const auto& named) { return named.param.first + "_" + named.param.second; });
 
 }  // namespace
 }  // namespace kavenda
