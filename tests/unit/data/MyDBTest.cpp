@@ -89,34 +89,23 @@ TEST_F(MyDBTest, FirstUseCopiesTheResourceAndLaterUsesNeverOverwrite)
 // results, writes refused and logged, and the program goes on.
 TEST_F(MyDBTest, AMissingOrUnopenableFileYieldsEmptyResults)
 {
-    std::optional<MyDB> other;
-    const std::pair<const char*, std::function<MyDB&()>> cases[] = {
-        {"deleted",
-         [this]() -> MyDB& {
-             fs::remove(db.dbPath());
-             return db;
-         }},
-        {"a folder in its place",
-         [this, &other]() -> MyDB& {
-             fs::remove(db.dbPath());
-             fs::create_directory(db.dbPath());
-             return other.emplace("Icons", paths, log);
-         }},
-        {"no resource",
-         [this, &other]() -> MyDB& {
-             fs::remove_all(paths.documentsFolder());
-             fs::remove(resource());
-             return other.emplace("Icons", paths, log);
-         }},
-    };
-    for (const auto& [what, damage] : cases) {
-        MyDB& broken = damage();
+    const auto yieldsNothing = [this](MyDB& broken, const char* what) {
         log.lines.clear();
         EXPECT_TRUE(broken.run("SELECT * FROM tSetting").empty()) << what;
         EXPECT_EQ(broken.ExecuteScaler("SELECT COUNT(*) FROM tSetting"), std::nullopt) << what;
         EXPECT_FALSE(broken.ExecuteNonQuery("UPDATE tSetting SET Item6=1")) << what;
         EXPECT_EQ(log.lines.size(), 1u) << what;
-    }
+    };
+    fs::remove(db.dbPath());
+    yieldsNothing(db, "deleted");
+    fs::remove(db.dbPath());
+    fs::create_directory(db.dbPath());
+    MyDB folder("Icons", paths, log);
+    yieldsNothing(folder, "a folder in its place");
+    fs::remove_all(paths.documentsFolder());
+    fs::remove(resource());
+    MyDB none("Icons", paths, log);
+    yieldsNothing(none, "no resource");
 }
 
 TEST_F(MyDBTest, ACopyCutShortLeavesNoFile)

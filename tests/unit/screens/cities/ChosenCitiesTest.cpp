@@ -2,22 +2,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "screens/cities/ChosenCities.h"
-
-#include "screens/cities/SelectionControllerDelegate.h"
-#include "tests/unit/screens/cities/CitiesFixture.h"
 #include "screens/cities/CitySearch.h"
-#include "screens/cities/SearchControllerDelegate.h"
 
-#include <tuple>
+#include "screens/cities/SearchControllerDelegate.h"
+#include "screens/cities/SelectionControllerDelegate.h"
+#include "screens/preferences/OccasionTime.h"
+#include "screens/preferences/ReminderSettings.h"
+#include "screens/preferences/SoundChoice.h"
+#include "tests/unit/screens/cities/CitiesFixture.h"
+
 #include <algorithm>
+#include <functional>
+#include <tuple>
 
 namespace kavenda {
 namespace {
 
-// Also the options' delegate: remembers how many reminder rebuilds had run when they closed.
-class ChosenCitiesTest : public test::CitiesFixture, public SelectionControllerDelegate {
+// The city screens; also the delegate of the options (remembering how many reminder rebuilds had
+// run when they closed) and of the search.
+class ChosenCitiesTest : public test::CitiesFixture,
+                         public SelectionControllerDelegate,
+                         public SearchControllerDelegate {
 protected:
-    void closeForm() override { rebuildsAtClose.push_back(rebuilds); }
+    void closeForm() override
+    {
+        rebuildsAtClose.push_back(rebuilds);
+        calls.push_back("closeForm");
+    }
+    void setProvince(int provinceId, const std::string& provinceName) override
+    {
+        calls.push_back("setProvince " + std::to_string(provinceId) + " " + provinceName);
+    }
 
     std::vector<std::string> names()
     {
@@ -27,10 +42,31 @@ protected:
         return found;
     }
 
+    static std::vector<std::string> sortedNames(const CitySearch& found)
+    {
+        std::vector<std::string> sorted;
+        for (int row = 0; row < found.count(); ++row)
+            sorted.push_back(found.nameAt(row));
+        std::sort(sorted.begin(), sorted.end());
+        return sorted;
+    }
+
+    // A write the database refuses until allowed again.
+    void refuse(const std::string& table, const std::string& action)
+    {
+        exec("CREATE TRIGGER refuse BEFORE " + action + " ON " + table + " BEGIN SELECT RAISE(ABORT, 'full'); END");
+    }
+    void allow() { exec("DROP TRIGGER refuse"); }
+
     int rebuilds = 0;
     std::vector<int> rebuildsAtClose;
+    std::vector<std::string> calls;
     ChosenCities cities{db, [this] { ++rebuilds; }};
+    CitySearch search{db};
+    CitySearch provinces{db, CitySearch::provinceMode};
 };
+using CitySearchTest = ChosenCitiesTest;
+using FailedWritesTest = ChosenCitiesTest;
 
 TEST_F(ChosenCitiesTest, ListsTheChosenCitiesWithTheirProvinceInAscendingOrdering)
 {
@@ -105,31 +141,6 @@ TEST_F(ChosenCitiesTest, DoneRebuildsTheRemindersBeforeClosing)
     EXPECT_EQ(rebuildsAtClose, (std::vector<int>{1, 2}));
 }
 
-struct RecordingSearchDelegate final : SearchControllerDelegate {
-    void closeForm() override { calls.push_back("closeForm"); }
-    void setProvince(int provinceId, const std::string& provinceName) override
-    {
-        calls.push_back("setProvince " + std::to_string(provinceId) + " " + provinceName);
-    }
-    std::vector<std::string> calls;
-};
-
-class CitySearchTest : public test::CitiesFixture {
-protected:
-    static std::vector<std::string> names(const CitySearch& search)
-    {
-        std::vector<std::string> found;
-        for (int row = 0; row < search.count(); ++row)
-            found.push_back(search.nameAt(row));
-        std::sort(found.begin(), found.end());
-        return found;
-    }
-
-    CitySearch cities{db};
-    CitySearch provinces{db, CitySearch::provinceMode};
-    RecordingSearchDelegate delegate;
-};
-
 TEST_F(CitySearchTest, TypedTextMatchesUnchosenCitiesAndProvincesWithPersianLetterForms)
 {
     choose({32});
@@ -142,32 +153,32 @@ TEST_F(CitySearchTest, TypedTextMatchesUnchosenCitiesAndProvincesWithPersianLett
         {"x' OR '1'='1", {}},
     };
     for (auto [typed, expected] : cases) {
-        cities.textDidChange(typed);
+        search.textDidChange(typed);
         std::sort(expected.begin(), expected.end());
-        EXPECT_EQ(names(cities), expected) << typed;
+        EXPECT_EQ(sortedNames(search), expected) << typed;
     }
     provinces.textDidChange("");
-    EXPECT_EQ(names(provinces), (std::vector<std::string>{"اصفهان", "تهران", "کرمان", "یزد"}))
+    EXPECT_EQ(sortedNames(provinces), (std::vector<std::string>{"اصفهان", "تهران", "کرمان", "یزد"}))
         << "provinces whether or not one of their cities is chosen";
     provinces.textDidChange("\u06A9\u0631\u0645\u0627\u0646");
-    EXPECT_EQ(names(provinces), (std::vector<std::string>{"کرمان"}));
+    EXPECT_EQ(sortedNames(provinces), (std::vector<std::string>{"کرمان"}));
 }
 
 TEST_F(CitySearchTest, AChoiceComesAfterEveryCityAndLeavesTheCandidates)
 {
-    cities.textDidChange("یزد");
-    cities.pick(0, delegate);
+    search.textDidChange("یزد");
+    search.pick(0, *this);
     EXPECT_EQ(orderings(), (std::vector<std::string>{"36:1"}));
-    EXPECT_EQ(delegate.calls, (std::vector<std::string>{"closeForm"}));
-    cities.textDidChange("یزد");
-    EXPECT_EQ(cities.count(), 0) << "a chosen city is no candidate any more";
+    EXPECT_EQ(calls, (std::vector<std::string>{"closeForm"}));
+    search.textDidChange("یزد");
+    EXPECT_EQ(search.count(), 0) << "a chosen city is no candidate any more";
 
     // After a move renumbered the list, the next choice still comes last.
     exec("INSERT INTO tSelectedStates VALUES(32, 4), (35, 9)");
     ChosenCities list(db, [] {});
     list.updateDataSource();
     list.move(2, 0);
-    cities.addState(33);
+    search.addState(33);
     EXPECT_EQ(orderings(), (std::vector<std::string>{"35:0", "36:1", "32:2", "33:4"}));
 }
 
@@ -175,9 +186,73 @@ TEST_F(CitySearchTest, ProvinceModeHandsTheProvinceBackAndAddsNothing)
 {
     provinces.textDidChange("اصف");
     ASSERT_EQ(provinces.count(), 1);
-    provinces.pick(0, delegate);
-    EXPECT_EQ(delegate.calls, (std::vector<std::string>{"setProvince 2 اصفهان", "closeForm"}));
+    provinces.pick(0, *this);
+    EXPECT_EQ(calls, (std::vector<std::string>{"setProvince 2 اصفهان", "closeForm"}));
     EXPECT_TRUE(orderings().empty());
+}
+
+// Every screen that writes: a write the database refuses is told (false), changes nothing
+// stored, and keeps what the screen holds, so that the same action goes through once the
+// database takes writes again.
+TEST_F(FailedWritesTest, SettingsSoundAndOccasionsKeepTheirValuesUntilSaved)
+{
+    ReminderSettings settings(db);
+    settings.load();
+    settings.valueChanged(0, false, 1);
+    SoundChoice sound(db, paths, nullptr);
+    sound.load();
+    sound.didSelectRow(7);
+    OccasionTime occasions(db, nullptr);
+    occasions.load();
+    occasions.valueChanged(true);
+    occasions.pickerValueChanged(9, 30);
+
+    // clang-format off
+    const struct {
+        const char* screen;
+        std::function<bool()> save;
+        std::function<bool()> saveEnabled;
+        std::function<bool()> holds;
+        int item;
+    } cases[] = {
+        {"settings",  [&] { return settings.save(); },  [&] { return settings.saveEnabled(); },
+                      [&] { return !settings.isOn(0); },                  0},
+        {"sound",     [&] { return sound.save(); },     [&] { return sound.saveEnabled(); },
+                      [&] { return sound.selectedPath() == 7; },          6},
+        {"occasions", [&] { return occasions.save(); }, [&] { return occasions.saveEnabled(); },
+                      [&] { return occasions.currentDate() == "09:30"; }, 7},
+    };
+    // clang-format on
+    for (const auto& c : cases) {
+        const std::string before = setting(c.item);
+        refuse("tSetting", "UPDATE");
+        EXPECT_FALSE(c.save()) << c.screen;
+        EXPECT_EQ(setting(c.item), before) << c.screen;
+        EXPECT_TRUE(c.saveEnabled()) << c.screen << ": Save stays, to try again";
+        EXPECT_TRUE(c.holds()) << c.screen;
+        allow();
+        EXPECT_TRUE(c.save()) << c.screen;
+        EXPECT_FALSE(c.saveEnabled()) << c.screen;
+        EXPECT_NE(setting(c.item), before) << c.screen;
+    }
+}
+
+TEST_F(FailedWritesTest, ARemovedCityOfOurOwnGoesWholeOrStays)
+{
+    choose({32, 63});
+    cities.updateDataSource();
+    const auto everything = [this] {
+        return rowsText({"SELECT * FROM tSelectedStates ORDER BY StateID", "SELECT * FROM tStates",
+                         "SELECT * FROM tTimes WHERE StateID = 63"});
+    };
+    const std::string before = everything();
+    refuse("tTimes", "DELETE");
+    EXPECT_FALSE(cities.remove(1));
+    EXPECT_EQ(everything(), before) << "the choice and the place come back with the offsets";
+    EXPECT_EQ(cities.count(), 2);
+    allow();
+    EXPECT_TRUE(cities.remove(1));
+    EXPECT_EQ(count("SELECT COUNT(*) FROM tStates WHERE StateID = 63"), 0);
 }
 
 }  // namespace
