@@ -1,10 +1,10 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
+#include "almanac/Sun.h"
 #include "almanac/Crescent.h"
 #include "almanac/DayCalendar.h"
 #include "almanac/PrayerTimes.h"
-#include "almanac/Sun.h"
 #include "almanac/SunTable.h"
 
 #include <gtest/gtest.h>
@@ -26,11 +26,11 @@ TEST(SunAgainstTheAlmanac, DeclinationAndEquationOfTime)
         double declination;
         double equationOfTime;
     } cases[] = {
-        {2013, 2, 11, NAN, -14.2},    // the equation of time at its winter minimum
-        {2013, 11, 3, NAN, 16.4},     // and at its autumn maximum
-        {2013, 6, 21, 23.44, -1.6},   // June solstice
+        {2013, 2, 11, NAN, -14.2},  // the equation of time at its winter minimum
+        {2013, 11, 3, NAN, 16.4},  // and at its autumn maximum
+        {2013, 6, 21, 23.44, -1.6},  // June solstice
         {2013, 12, 21, -23.44, 1.9},  // December solstice
-        {2013, 3, 20, -0.2, -7.6},    // near the March equinox
+        {2013, 3, 20, -0.2, -7.6},  // near the March equinox
     };
     for (const auto& c : cases) {
         const SunPosition sun = sunPosition(julianDay(c.year, c.month, c.day));

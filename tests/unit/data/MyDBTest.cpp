@@ -203,9 +203,11 @@ TEST(DatabaseCheck, AShippedDatabaseThatCannotServeIsNamed)
 
 TEST(IntValue, ReadsLeadingDigitsLikeThePlatform)
 {
+    // clang-format off
     const std::pair<const char*, int> cases[] = {{"15", 15},  {"4:35", 4}, {"", 0},   {"abc", 0},
                                                  {"  -3", -3}, {"+7x", 7},  {"-", 0},  {"08", 8},
                                                  {"99999999999", 2147483647}, {"-99999999999", -2147483647 - 1}};
+    // clang-format on
     for (const auto& [text, value] : cases)
         EXPECT_EQ(intValue(text), value) << '"' << text << '"';
 }

@@ -74,8 +74,8 @@ TEST(SystemPersianCalendar, DaysOfTheYearRunOnPastAShortEsfandAsIcusDo)
 {
     SystemPersianCalendar calendar;
     // 1403 and 1408 are leap; 30 Esfand 1407 is the next year's first day.
-    const int cases[][4] = {{1403, 12, 30, 366}, {1407, 12, 30, 1}, {1408, 12, 30, 366}, {1404, 7, 1, 187},
-                            {1404, 13, 1, 1}};
+    const int cases[][4] = {
+        {1403, 12, 30, 366}, {1407, 12, 30, 1}, {1408, 12, 30, 366}, {1404, 7, 1, 187}, {1404, 13, 1, 1}};
     for (const auto& [year, month, day, dayOfYear] : cases)
         EXPECT_EQ(calendar.dayOfYear(year, month, day), dayOfYear) << year << "-" << month << "-" << day;
 }

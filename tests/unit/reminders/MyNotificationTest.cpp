@@ -4,21 +4,21 @@
 #include "reminders/MyNotification.h"
 
 #include "desktop/SystemPersianCalendar.h"
+#include "reminders/NextReminderText.h"
+#include "reminders/ReminderSound.h"
 #include "tests/support/FixedClock.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
+#include "tests/support/RecordingAudioPlayer.h"
+#include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
-#include "reminders/NextReminderText.h"
-#include "reminders/ReminderSound.h"
-#include "tests/support/FixedPaths.h"
-#include "tests/support/RecordingAudioPlayer.h"
-#include "tests/support/RecordingLog.h"
 #include "tests/support/TempFolder.h"
 
 #include <algorithm>
-#include <tuple>
 #include <fstream>
+#include <tuple>
 
 namespace kavenda {
 namespace {

@@ -49,8 +49,8 @@ protected:
 // 2026, 1408 Tuesday 20 March 2029; 1408 is a leap year, 1392 and 1405 are not.
 TEST_F(MonthGridTest, EveryMonthStartsOnItsWeekdayAndFillsTheGridInTurn)
 {
-    const std::tuple<int, int, int, int, int> cases[] = {{1392, 2013, 21, 5, 29}, {1405, 2026, 21, 0, 29},
-                                                         {1408, 2029, 20, 3, 30}};
+    const std::tuple<int, int, int, int, int> cases[] = {
+        {1392, 2013, 21, 5, 29}, {1405, 2026, 21, 0, 29}, {1408, 2029, 20, 3, 30}};
     for (const auto& [year, gregorianYear, marchDay, farvardinColumn, esfandLength] : cases) {
         const CivilTime first = calendar.gregorianFields(calendar.instantOf(year, 1, 1, 12, 0));
         EXPECT_EQ(std::tie(first.year, first.month, first.day), std::tuple(gregorianYear, 3, marchDay));
@@ -93,7 +93,8 @@ TEST_F(MonthGridTest, DaysCarryTheirMeaningsAndAPickedNumberIsAlwaysOnTheSelecti
                   c);
         EXPECT_EQ(found->ink(true), Ink::onSelection) << std::get<0>(c);
     }
-    EXPECT_EQ(shown(grid).cell(20)->description, "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
+    EXPECT_EQ(shown(grid).cell(20)->description,
+              "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
 }
 
 // Opened on 15 Tir 1392, today 10 Tir: taps, a step on and back, and today from near and far.

@@ -154,11 +154,12 @@ TEST_F(TerminalTest, ColoursHolidaysAndFridaysOnlyWhenAsked)
     EXPECT_EQ(farvardin[2], std::string(15, ' ') + ' ' + red(" ١") + ' ' + red(" ٢"));
     EXPECT_EQ(farvardin[3], ' ' + red(" ٣") + ' ' + red(" ٤") + "  ٥  ٦  ٧  ٨ " + red(" ٩"));
     EXPECT_EQ(farvardin[9], red("١*") + " آغاز نوروز");
-    EXPECT_EQ(farvardin[15], "٢٠ روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
+    EXPECT_EQ(farvardin[15],
+              "٢٠ روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
     const std::vector<std::string> year1405 = shown(lines(*year.print(1405, true)));
-    EXPECT_EQ(year1405[4].find(' ' + red(" ١") + ' ' + red(" ٢") + ' ' + red(" ٣") + ' ' + red(" ٤") + "  ٥  ٦ "
-                               + red(" ٧")),
-              0u)
+    EXPECT_EQ(
+        year1405[4].find(' ' + red(" ١") + ' ' + red(" ٢") + ' ' + red(" ٣") + ' ' + red(" ٤") + "  ٥  ٦ " + red(" ٧")),
+        0u)
         << year1405[4];
     for (const std::string& line : year1405)
         EXPECT_LE(columns(line), 80u) << line;

@@ -5,12 +5,12 @@
 
 #include "calendar/DateTimePersian.h"
 #include "desktop/SystemPersianCalendar.h"
-#include "tests/support/FixtureDatabase.h"
-#include "screens/main/DayPage.h"
 #include "reminders/MyNotification.h"
 #include "screens/cities/ChosenCities.h"
 #include "screens/cities/CitySearch.h"
+#include "screens/main/DayPage.h"
 #include "tests/support/FixedClock.h"
+#include "tests/support/FixtureDatabase.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
@@ -200,12 +200,14 @@ TEST_P(DamagedSchema, NoScreenAndNoRebuildThrows)
     EXPECT_NO_THROW(search.updateDataSource("ت"));
 }
 
+// clang-format off
 INSTANTIATE_TEST_SUITE_P(RenamedColumns, DamagedSchema,
                          ::testing::ValuesIn(std::vector<std::pair<std::string, std::string>>{
                              {"tStates", "Name"}, {"tStates", "IsCenter"}, {"tStates", "StateID"},
                              {"tStates", "ParentID"}, {"tSelectedStates", "Ordering"}, {"tTimes", "T1"},
                              {"tEvents", "Description"}, {"tSetting", "Item7"}}),
                          [](const auto& named) { return named.param.first + "_" + named.param.second; });
+// clang-format on
 
 }  // namespace
 }  // namespace kavenda

@@ -198,11 +198,13 @@ TEST_F(OccasionTimeTest, LoadsTheStoredTime)
 
 TEST_F(OccasionTimeTest, SavesTheTimeInTwoDigitsOrZeroForOff)
 {
+    // clang-format off
     const std::tuple<const char*, std::function<void(OccasionTime&)>, std::string> cases[] = {
         {"0", [](OccasionTime& o) { o.valueChanged(true); }, "08:00"},  // the picker untouched
         {"7:5", [](OccasionTime& o) { o.valueChanged(false); o.valueChanged(true); }, "07:05"},
         {"06:30", [](OccasionTime& o) { o.pickerValueChanged(6, 45); o.valueChanged(false); }, "0"},
     };
+    // clang-format on
     for (const auto& [item7, edit, saved] : cases) {
         loadOccasions(item7);
         log.lines.clear();

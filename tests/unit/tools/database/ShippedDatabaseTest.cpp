@@ -106,8 +106,8 @@ TEST_F(OfficialCalendar, LunarOccasionsFallOnTheOfficialDaysOfTheTable)
             const long day = table[i].firstDay + std::min<long>(o.day, length) - 1;
             if (o.month != table[i].month || !days.count(day) || at(day).year < 1393 || at(day).year > 1405)
                 continue;
-            EXPECT_TRUE(at(day).has(o.name)) << o.name << " on " << at(day).year << "/" << at(day).month << "/"
-                                             << at(day).day;
+            EXPECT_TRUE(at(day).has(o.name))
+                << o.name << " on " << at(day).year << "/" << at(day).month << "/" << at(day).day;
             ++checked;
         }
     }
