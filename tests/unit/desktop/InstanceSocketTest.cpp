@@ -108,30 +108,22 @@ protected:
     }
 };
 
-TEST_F(InstanceSocketTest, AMessageReachesTheProgramOfTheSameFolderOnly)
+// A message reaches the program of the same folder only; the socket goes with the program, and
+// one left by a crash is replaced.
+TEST_F(InstanceSocketTest, AMessageReachesTheProgramOfTheSameFolderOnlyWhileItRuns)
 {
     EXPECT_FALSE(sendToRunningInstance(data, "show")) << "nobody listens yet";
-    InstanceSocket running(data);
-    ASSERT_TRUE(running.listen());
-    EXPECT_EQ(running.path().parent_path(), temp.path() / "runtime");
-
-    EXPECT_TRUE(sendToRunningInstance(data / "." / "", "quit"));
-    EXPECT_EQ(receivedLine(running), "quit\n");
-    fs::create_directories(temp.path() / "other");
-    EXPECT_FALSE(sendToRunningInstance(temp.path() / "other", "show"));
-
-    InstanceSocket second(data);
-    EXPECT_FALSE(second.listen()) << "a running program keeps its socket";
-}
-
-TEST_F(InstanceSocketTest, TheSocketGoesWithTheProgramAndOneLeftByACrashIsReplaced)
-{
     fs::path path;
     {
         InstanceSocket running(data);
         ASSERT_TRUE(running.listen());
         path = running.path();
-        EXPECT_TRUE(fs::exists(path));
+        EXPECT_EQ(path.parent_path(), temp.path() / "runtime");
+        EXPECT_TRUE(sendToRunningInstance(data / "." / "", "quit"));
+        EXPECT_EQ(receivedLine(running), "quit\n");
+        fs::create_directories(temp.path() / "other");
+        EXPECT_FALSE(sendToRunningInstance(temp.path() / "other", "show"));
+        EXPECT_FALSE(InstanceSocket(data).listen()) << "a running program keeps its socket";
     }
     EXPECT_FALSE(fs::exists(path)) << "a clean exit removes the socket";
 
@@ -145,6 +137,8 @@ TEST_F(InstanceSocketTest, TheSocketGoesWithTheProgramAndOneLeftByACrashIsReplac
     EXPECT_EQ(receivedLine(next), "show\n");
 }
 
+// A runtime folder that is not private gives way to one of our own, which another user must not have
+// made.
 TEST_F(InstanceSocketTest, ARuntimeFolderThatIsNotPrivateGivesWayToOneOfOurOwn)
 {
     const fs::path open = temp.path() / "open";
@@ -165,12 +159,9 @@ TEST_F(InstanceSocketTest, ARuntimeFolderThatIsNotPrivateGivesWayToOneOfOurOwn)
         ASSERT_EQ(::lstat(fallback.c_str(), &status), 0) << what;
         EXPECT_EQ(status.st_mode & 0777, 0700u) << what;
     }
-}
 
-TEST_F(InstanceSocketTest, AFallbackFolderMadeByAnotherUserIsNotUsed)
-{
+    // A fallback folder made by another user is not used.
     const ScopedEnv variable("XDG_RUNTIME_DIR", std::nullopt);
-    fs::create_directories(fallback);
     ::chmod(fallback.c_str(), 0777);
     EXPECT_EQ(InstanceSocket::runtimeFolder(), std::nullopt) << "open to everyone";
     if (::getuid() == 0) {
