@@ -256,9 +256,13 @@ TEST_F(SoundChoiceTest, TheStoredRowCarriesTheCheckmark)
     }
 }
 
-TEST_F(SoundChoiceTest, ATapPreviewsTheRowAndEnablesSaveWhenItDiffersFromTheStoredOne)
+// A tap previews the row and enables Save when it differs from the stored one; Save stores the
+// checked row and stops only a started preview.
+TEST_F(SoundChoiceTest, ATapPreviewsTheRowAndSaveStoresIt)
 {
     show("9");
+    choice.stopPreview();
+    EXPECT_TRUE(audio.calls.empty());
     EXPECT_EQ(tap(9), (Calls{"open " + resourceFile(9)})) << "the random row plays nothing";
     EXPECT_FALSE(choice.saveEnabled());
     EXPECT_EQ(tap(7), (Calls{"open " + resourceFile(7), "play"}));
@@ -267,19 +271,11 @@ TEST_F(SoundChoiceTest, ATapPreviewsTheRowAndEnablesSaveWhenItDiffersFromTheStor
     EXPECT_EQ(tap(8), (Calls{"stop", "open " + resourceFile(8), "play"})) << "the first preview stops first";
     EXPECT_EQ(tap(9), (Calls{"stop", "open " + resourceFile(9)}));
     EXPECT_FALSE(choice.saveEnabled()) << "back on the stored row";
-}
 
-TEST_F(SoundChoiceTest, SaveStoresTheCheckedRowAndStopsOnlyAStartedPreview)
-{
-    show("0");
-    choice.stopPreview();
-    EXPECT_TRUE(audio.calls.empty());
     tap(7);
     audio.calls.clear();
     choice.save();
-    EXPECT_EQ(setting(6), "7");
-    EXPECT_EQ(choice.selected(), 7);
-    EXPECT_FALSE(choice.saveEnabled());
+    EXPECT_EQ(std::tuple(setting(6), choice.selected(), choice.saveEnabled()), std::tuple("7", 7, false));
     choice.stopPreview();
     EXPECT_EQ(audio.calls, (Calls{"stop"}));
     choice.didSelectRow(7);
@@ -293,8 +289,20 @@ TEST_F(SoundChoiceTest, SaveStoresTheCheckedRowAndStopsOnlyAStartedPreview)
     EXPECT_EQ(audio.calls.back(), "open " + resourceFile(4)) << "no player, nothing to stop";
 }
 
+// An unplayable file, the random row or no row copies nothing; a playable one is copied under the
+// row's name and preferred from then on.
 TEST_F(SoundChoiceTest, AnOwnRecordingIsCopiedUnderTheRowsNameAndPreferredFromThenOn)
 {
+    const auto notes = temp.path() / "notes.txt";
+    write(notes, "not a sound");
+    int checks = 0;
+    const auto refuse = [&checks](const fs::path&) { return ++checks == 0; };
+    EXPECT_EQ(choice.useOwnRecording(3, notes, refuse), SoundChoice::OwnRecording::notPlayable);
+    EXPECT_EQ(choice.useOwnRecording(SoundChoice::randomRow, notes, refuse), SoundChoice::OwnRecording::notCopied);
+    EXPECT_EQ(choice.useOwnRecording(11, notes, refuse), SoundChoice::OwnRecording::notCopied);
+    EXPECT_EQ(checks, 1);
+    EXPECT_FALSE(fs::exists(paths.documentsFolder() / "sounds"));
+
     const auto source = temp.path() / "my call.ogg";
     write(source, "mine");
     std::vector<fs::path> checked;
@@ -321,19 +329,6 @@ TEST_F(SoundChoiceTest, AnOwnRecordingIsCopiedUnderTheRowsNameAndPreferredFromTh
     EXPECT_EQ(choice.useOwnRecording(7, temp.path() / "gone.wav", playable), SoundChoice::OwnRecording::notCopied);
     EXPECT_EQ(test::fileText(own), "newer");
     EXPECT_FALSE(fs::exists(own.string() + ".part"));
-}
-
-TEST_F(SoundChoiceTest, AnUnplayableFileOrTheRandomRowCopiesNothing)
-{
-    const auto source = temp.path() / "notes.txt";
-    write(source, "not a sound");
-    int checks = 0;
-    const auto refuse = [&checks](const fs::path&) { return ++checks == 0; };
-    EXPECT_EQ(choice.useOwnRecording(3, source, refuse), SoundChoice::OwnRecording::notPlayable);
-    EXPECT_EQ(choice.useOwnRecording(SoundChoice::randomRow, source, refuse), SoundChoice::OwnRecording::notCopied);
-    EXPECT_EQ(choice.useOwnRecording(11, source, refuse), SoundChoice::OwnRecording::notCopied);
-    EXPECT_EQ(checks, 1);
-    EXPECT_FALSE(fs::exists(paths.documentsFolder() / "sounds"));
 }
 
 }  // namespace
