@@ -34,21 +34,15 @@ protected:
         calls.push_back("setProvince " + std::to_string(provinceId) + " " + provinceName);
     }
 
-    std::vector<std::string> names()
+    // The names a list shows, in its order or sorted.
+    template <typename List> static std::vector<std::string> names(const List& list, bool sorted = false)
     {
         std::vector<std::string> found;
-        for (int row = 0; row < cities.count(); ++row)
-            found.push_back(cities.nameAt(row));
+        for (int row = 0; row < list.count(); ++row)
+            found.push_back(list.nameAt(row));
+        if (sorted)
+            std::sort(found.begin(), found.end());
         return found;
-    }
-
-    static std::vector<std::string> sortedNames(const CitySearch& found)
-    {
-        std::vector<std::string> sorted;
-        for (int row = 0; row < found.count(); ++row)
-            sorted.push_back(found.nameAt(row));
-        std::sort(sorted.begin(), sorted.end());
-        return sorted;
     }
 
     // A write the database refuses until allowed again.
@@ -72,7 +66,7 @@ TEST_F(ChosenCitiesTest, ListsTheChosenCitiesWithTheirProvinceInAscendingOrderin
 {
     exec("INSERT INTO tSelectedStates VALUES(35, 7), (32, 2), (63, 5)");
     cities.updateDataSource();
-    EXPECT_EQ(names(), (std::vector<std::string>{"تهران (تهران)", "شهریار (تهران)", "کرمان (کرمان)"}));
+    EXPECT_EQ(names(cities), (std::vector<std::string>{"تهران (تهران)", "شهریار (تهران)", "کرمان (کرمان)"}));
     EXPECT_EQ(cities.stateIdAt(1), 63);
 }
 
@@ -87,7 +81,7 @@ TEST_F(ChosenCitiesTest, RemovingACityDeletesOnlyAUserMadePlace)
         cities.updateDataSource();
         EXPECT_TRUE(cities.remove(1));
         EXPECT_EQ(orderings(), (std::vector<std::string>{"32:0"}));
-        EXPECT_EQ(names(), (std::vector<std::string>{"تهران (تهران)"}));
+        EXPECT_EQ(names(cities), (std::vector<std::string>{"تهران (تهران)"}));
         const std::string id = std::to_string(removed);
         EXPECT_EQ(count("SELECT COUNT(*) FROM tStates WHERE StateID = " + id), rowsLeft) << removed;
         EXPECT_EQ(count("SELECT COUNT(*) FROM tTimes WHERE StateID = " + id), rowsLeft) << removed;
@@ -155,13 +149,13 @@ TEST_F(CitySearchTest, TypedTextMatchesUnchosenCitiesAndProvincesWithPersianLett
     for (auto [typed, expected] : cases) {
         search.textDidChange(typed);
         std::sort(expected.begin(), expected.end());
-        EXPECT_EQ(sortedNames(search), expected) << typed;
+        EXPECT_EQ(names(search, true), expected) << typed;
     }
     provinces.textDidChange("");
-    EXPECT_EQ(sortedNames(provinces), (std::vector<std::string>{"اصفهان", "تهران", "کرمان", "یزد"}))
+    EXPECT_EQ(names(provinces, true), (std::vector<std::string>{"اصفهان", "تهران", "کرمان", "یزد"}))
         << "provinces whether or not one of their cities is chosen";
     provinces.textDidChange("\u06A9\u0631\u0645\u0627\u0646");
-    EXPECT_EQ(sortedNames(provinces), (std::vector<std::string>{"کرمان"}));
+    EXPECT_EQ(names(provinces, true), (std::vector<std::string>{"کرمان"}));
 }
 
 TEST_F(CitySearchTest, AChoiceComesAfterEveryCityAndLeavesTheCandidates)

@@ -173,16 +173,13 @@ TEST_F(OfficialCalendar, Year1392IsItsOfficialCalendar)
         names += (names.empty() ? "" : "@") + o.name;
         holiday = holiday || o.holidayIn(1392);
     }
-    int daysOf1392 = 0;
     for (const auto& [day, e] : days) {
-        if (e.year != 1392)
-            continue;
-        ++daysOf1392;
         const auto it = official.find(e.month * 100 + e.day);
-        EXPECT_EQ(e.description, it == official.end() ? "" : it->second.first) << e.month << "/" << e.day;
-        EXPECT_EQ(e.holiday, it != official.end() && it->second.second) << e.month << "/" << e.day;
+        EXPECT_TRUE(e.year != 1392
+                    || std::pair(e.description, e.holiday)
+                        == (it == official.end() ? std::pair(std::string(), false) : it->second))
+            << e.month << "/" << e.day << " " << e.description;
     }
-    EXPECT_EQ(daysOf1392, 365);
     EXPECT_EQ(holidaysInTheDatabase(1392).size(), 26u);
 }
 
@@ -192,16 +189,14 @@ constexpr std::size_t provinceCount = 31;
 
 TEST_F(IconsInvariants, PlacesAreTheProvincesAndTheirCentres)
 {
-    ASSERT_TRUE(db.isExist());
-    EXPECT_EQ(scalar("SELECT COUNT(*) FROM tStates WHERE ParentID IS NULL AND IsCenter = 0"), "31");
-    EXPECT_EQ(scalar("SELECT COUNT(*) FROM tStates WHERE IsCenter = 1"), "31");
-    EXPECT_EQ(scalar("SELECT MIN(StateID) || '-' || MAX(StateID) FROM tStates"), "1-62");
-    // Every province has exactly one centre among its children, and every city a province.
-    EXPECT_EQ(scalar("SELECT COUNT(*) FROM tStates p WHERE p.ParentID IS NULL AND "
-                     "(SELECT COUNT(*) FROM tStates c WHERE c.ParentID = p.StateID AND c.IsCenter = 1) <> 1"),
-              "0");
-    EXPECT_EQ(scalar("SELECT COUNT(*) FROM tStates c LEFT JOIN tStates p ON c.ParentID = p.StateID "
-                     "WHERE c.ParentID IS NOT NULL AND (p.StateID IS NULL OR p.ParentID IS NOT NULL)"),
+    // Provinces, centres, identifiers; provinces without exactly one centre, cities without a province.
+    EXPECT_EQ(scalar("SELECT SUM(ParentID IS NULL AND IsCenter = 0) || ' ' || SUM(IsCenter = 1) || ' ' || "
+                     "MIN(StateID) || '-' || MAX(StateID) FROM tStates"),
+              "31 31 1-62");
+    EXPECT_EQ(scalar("SELECT (SELECT COUNT(*) FROM tStates p WHERE p.ParentID IS NULL AND "
+                     "(SELECT COUNT(*) FROM tStates c WHERE c.ParentID = p.StateID AND c.IsCenter = 1) <> 1) + "
+                     "(SELECT COUNT(*) FROM tStates c LEFT JOIN tStates p ON c.ParentID = p.StateID "
+                     "WHERE c.ParentID IS NOT NULL AND (p.StateID IS NULL OR p.ParentID IS NOT NULL))"),
               "0");
     // Names use the Persian letter forms that typed searches are normalised to.
     for (const Row& row : db.Execute("SELECT Name FROM tStates"))
