@@ -92,10 +92,8 @@ TEST(AddMinutes, WrapsAroundMidnightBothWays)
         EXPECT_EQ(DateTimePersian::add(time, minutes), result) << time << " " << minutes;
 }
 
-// The date engine keys the database by the day the clock shows; the generator wrote the
-// database's keys, and the program those of the years after the shipped ones, from the
-// almanac's own walk through the Persian calendar. Both must name every day
-// alike, or from some day on every screen reads the neighbouring day's times.
+// The date engine keys the database by the day the clock shows, the generator by the almanac's
+// walk through the calendar: unless both name every day alike, screens read a neighbour's times.
 TEST(EngineAndGenerator, AgreeOnEveryDayOfTheShippedAndTheComputedYears)
 {
     almanac::DayCalendar days(1392);

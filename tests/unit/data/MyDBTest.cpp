@@ -26,7 +26,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The working copy is made by the fixture's MyDB; the tests of its making open their own.
 class MyDBTest : public test::WorkingCopy {
 protected:
     fs::path resource() const { return paths.resourceFolder() / "Icons"; }
@@ -131,11 +130,9 @@ TEST_F(MyDBTest, ACopyCutShortLeavesNoFile)
 
     EXPECT_FALSE(copied);
     EXPECT_EQ(cause, std::errc::file_too_large) << cause.message();
-    // Nothing but the folder's lock file.
     for (const auto& entry : fs::directory_iterator(paths.documentsFolder()))
         EXPECT_EQ(entry.path().filename(), DataFolderLock::fileName);
 
-    // The next start copies the whole file.
     MyDB whole("Icons", paths, log);
     EXPECT_EQ(fs::file_size(whole.dbPath()), fs::file_size(resource()));
 }

@@ -137,8 +137,7 @@ TEST_F(InstanceSocketTest, AMessageReachesTheProgramOfTheSameFolderOnlyWhileItRu
     EXPECT_EQ(receivedLine(next), "show\n");
 }
 
-// A runtime folder that is not private gives way to one of our own, which another user must not have
-// made.
+// A runtime folder that is not private gives way to one of our own, not one another user made.
 TEST_F(InstanceSocketTest, ARuntimeFolderThatIsNotPrivateGivesWayToOneOfOurOwn)
 {
     const fs::path open = temp.path() / "open";

@@ -124,9 +124,8 @@ TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
     }
 }
 
-// Each reminder takes the summer hour of its own day; keys of seven characters from 1400; no
-// summer hour from 1402. The next five rows held are announced, whatever their dates, for the
-// first city of the list.
+// Each reminder takes the summer hour of its own day; keys of seven characters from 1400; no summer
+// hour from 1402. The next five rows held are announced, whatever their dates, for the first city.
 TEST_F(Reminders, EachDawnCallTakesTheSummerHourOfItsOwnDay)
 {
     choose({32});
@@ -147,7 +146,6 @@ TEST_F(Reminders, EachDawnCallTakesTheSummerHourOfItsOwnDay)
         ASSERT_EQ(records.size(), count) << index;
         EXPECT_EQ(records[index].fireDate, dawn) << index;
     }
-    // The first city of the list is announced.
     exec("INSERT INTO tSelectedStates VALUES(33, -1)");
     clock.set(tehran(2013, 5, 22, 0, 1));
     const auto records = update();

@@ -37,7 +37,6 @@ protected:
         look();
     }
 
-    // One look of the running program.
     void look()
     {
         for (NotificationRecord& record : queue.takeDue(clock.now()))

@@ -34,7 +34,6 @@ protected:
         calls.push_back("setProvince " + std::to_string(provinceId) + " " + provinceName);
     }
 
-    // The names a list shows, in its order or sorted.
     template <typename List> static std::vector<std::string> names(const List& list, bool sorted = false)
     {
         std::vector<std::string> found;
