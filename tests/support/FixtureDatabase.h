@@ -32,7 +32,26 @@ protected:
     }
 
     std::string scalar(std::string_view sql) { return db.ExecuteScaler(sql).value_or("(none)"); }
+    int count(std::string_view sql) { return std::stoi(db.ExecuteScaler(sql).value_or("-1")); }
     void exec(std::string_view sql) { ASSERT_TRUE(db.ExecuteNonQuery(sql)) << sql; }
+    void setSettings(const std::string& assignments) { exec("UPDATE tSetting SET " + assignments); }
+    std::string setting(int item) { return scalar("SELECT Item" + std::to_string(item) + " FROM tSetting"); }
+    // Every row the queries give as "column=value;" text, to compare before and after.
+    std::string rowsText(std::initializer_list<std::string_view> queries)
+    {
+        std::string text;
+        for (std::string_view sql : queries)
+            for (const Row& row : db.Execute(sql))
+                for (const auto& [column, value] : row)
+                    text += column + "=" + value + ";";
+        return text;
+    }
+    // The cities in list order, numbered on from `ordering`.
+    void choose(std::initializer_list<int> stateIds, int ordering = 0)
+    {
+        for (int id : stateIds)
+            exec("INSERT INTO tSelectedStates VALUES(" + std::to_string(id) + ", " + std::to_string(ordering++) + ")");
+    }
 
     TempFolder temp;
     FixedPaths paths;

@@ -23,12 +23,9 @@ const SystemPersianCalendar calendar;
 // database's years are checked day by day below).
 TEST(FromClock, GivesThePersianDateOfTheDay)
 {
-    struct Case {
-        int gy, gm, gd;
-        int year, month, day, dayOfYear;
-    };
+    // Gregorian year, month and day; Persian year, month, day and day of the year.
     // clang-format off
-    const Case cases[] = {
+    const int cases[][7] = {
         {2012, 3, 19, 1390, 12, 29, 365}, {2012, 3, 20, 1391, 1, 1, 1}, {2013, 3, 20, 1391, 12, 30, 366},
         {2016, 2, 29, 1394, 12, 10, 346},
         // The official leap years: 1403 and 1408 have 366 days, 1407 has 365.
@@ -36,42 +33,35 @@ TEST(FromClock, GivesThePersianDateOfTheDay)
         {2030, 3, 20, 1408, 12, 30, 366}, {2030, 3, 21, 1409, 1, 1, 1},
     };
     // clang-format on
-    for (const Case& c : cases) {
+    for (const auto& [gy, gm, gd, year, month, day, dayOfYear] : cases) {
         // Early morning and late evening of the same civil day give the same date.
         for (int hour : {0, 23}) {
-            const auto date = DateTimePersian::init(tehran(c.gy, c.gm, c.gd, hour, 30), calendar);
+            const auto date = DateTimePersian::init(tehran(gy, gm, gd, hour, 30), calendar);
             EXPECT_EQ(std::tuple(date.year(), date.month(), date.day(), date.dayOfYear()),
-                      std::tuple(c.year, c.month, c.day, c.dayOfYear))
-                << c.gy << "-" << c.gm << "-" << c.gd << " " << hour << ":30";
+                      std::tuple(year, month, day, dayOfYear))
+                << gy << "-" << gm << "-" << gd << " " << hour << ":30";
         }
     }
 }
 
 TEST(FromKey, ReadsSixAndSevenCharacterKeysBackAndWritesThemAgain)
 {
-    struct Case {
-        const char* key;
-        int year, month, day, dayOfYear;
-    };
-    for (const Case& c : {Case{"920631", 92, 6, 31, 186}, Case{"911230", 91, 12, 30, 366},
-                          Case{"1000101", 100, 1, 1, 1}, Case{"1050901", 105, 9, 1, 247},
-                          Case{"1031230", 103, 12, 30, 366}}) {
-        const auto date = DateTimePersian::initWithPersianDate(c.key, calendar);
-        EXPECT_EQ(std::tuple(date.year(), date.month(), date.day(), date.dayOfYear()),
-                  std::tuple(c.year, c.month, c.day, c.dayOfYear))
-            << c.key;
-        EXPECT_EQ(date.getPersianDate(), c.key);
+    const std::tuple<const char*, int, int, int, int> cases[] = {{"920631", 92, 6, 31, 186},
+                                                                 {"911230", 91, 12, 30, 366},
+                                                                 {"1000101", 100, 1, 1, 1},
+                                                                 {"1050901", 105, 9, 1, 247},
+                                                                 {"1031230", 103, 12, 30, 366}};
+    for (const auto& [key, year, month, day, dayOfYear] : cases) {
+        const auto date = DateTimePersian::initWithPersianDate(key, calendar);
+        EXPECT_EQ(std::tuple(date.getPersianDate(), date.year(), date.month(), date.day(), date.dayOfYear()),
+                  std::tuple(key, year, month, day, dayOfYear));
     }
 }
 
 TEST(FormatHour, AddsTheSummerHourOnlyWhereItWasKept)
 {
     // clang-format off
-    const struct {
-        const char* key;
-        const char* time;
-        const char* shown;
-    } cases[] = {
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"920630", "23:30", "00:30"},   // day 185: still summer, wraps past midnight
         {"920631", "23:30", "23:30"},   // day 186: standard time
         {"920101", "0:0", "01:00"},
@@ -82,19 +72,14 @@ TEST(FormatHour, AddsTheSummerHourOnlyWhereItWasKept)
         {"920801", "2147483647:00", "2147483647:00"},
     };
     // clang-format on
-    for (const auto& c : cases)
-        EXPECT_EQ(DateTimePersian::initWithPersianDate(c.key, calendar).formatHour(c.time), c.shown)
-            << c.key << " " << c.time;
+    for (const auto& [key, time, shown] : cases)
+        EXPECT_EQ(DateTimePersian::initWithPersianDate(key, calendar).formatHour(time), shown) << key << " " << time;
 }
 
 TEST(AddMinutes, WrapsAroundMidnightBothWays)
 {
-    const struct {
-        const char* time;
-        const char* minutes;
-        const char* result;
-        // clang-format off
-    } cases[] = {
+    // clang-format off
+    const std::tuple<const char*, const char*, const char*> cases[] = {
         {"23:50", "15", "0:5"}, {"0:10", "-20", "23:50"}, {"12:00", "0", "12:0"},
         {"6:0", "5", "6:5"},    {"4:35", "-3", "4:32"},   {"0:0", "-1440", "0:0"},
         {"1:00", "-3000", "23:0"}, {"22:58", "+90", "0:28"},
@@ -103,14 +88,12 @@ TEST(AddMinutes, WrapsAroundMidnightBothWays)
         {"-2147483648:0", "-2147483648", "13:52"},
     };
     // clang-format on
-    for (const auto& c : cases)
-        EXPECT_EQ(DateTimePersian::add(c.time, c.minutes), c.result) << c.time << " " << c.minutes;
+    for (const auto& [time, minutes, result] : cases)
+        EXPECT_EQ(DateTimePersian::add(time, minutes), result) << time << " " << minutes;
 }
 
-// The date engine keys the database by the day the clock shows; the generator wrote the
-// database's keys, and the program those of the years after the shipped ones, from the
-// almanac's own walk through the Persian calendar. Both must name every day
-// alike, or from some day on every screen reads the neighbouring day's times.
+// The date engine keys the database by the day the clock shows, the generator by the almanac's
+// walk through the calendar: unless both name every day alike, screens read a neighbour's times.
 TEST(EngineAndGenerator, AgreeOnEveryDayOfTheShippedAndTheComputedYears)
 {
     almanac::DayCalendar days(1392);

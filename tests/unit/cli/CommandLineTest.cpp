@@ -45,10 +45,7 @@ TEST(CommandLineTest, ReadsValuesEitherWayAndKeepsQtsOptionsForTheWindow)
 
 TEST(CommandLineTest, RefusesWhatItDoesNotKnowWithTheReason)
 {
-    const struct {
-        std::vector<const char*> arguments;
-        std::string problem;
-    } cases[] = {
+    const std::pair<std::vector<const char*>, std::string> cases[] = {
         {{"--bogus"}, "Unknown option 'bogus'."},
         {{"-help"}, "Unknown option 'help'."},
         {{"--h"}, "Unknown option 'h'."},
@@ -56,10 +53,10 @@ TEST(CommandLineTest, RefusesWhatItDoesNotKnowWithTheReason)
         {{"--tall=yes"}, "Unexpected value after '--tall=yes'."},
         {{"--month", "1405-09", "1405-10"}, "Unexpected argument '1405-10'."},
     };
-    for (const auto& c : cases) {
-        const auto parsed = parse(c.arguments);
-        ASSERT_TRUE(std::holds_alternative<std::string>(parsed)) << c.problem;
-        EXPECT_EQ(std::get<std::string>(parsed), c.problem);
+    for (const auto& [arguments, problem] : cases) {
+        const auto parsed = parse(arguments);
+        ASSERT_TRUE(std::holds_alternative<std::string>(parsed)) << problem;
+        EXPECT_EQ(std::get<std::string>(parsed), problem);
     }
 }
 
@@ -101,7 +98,9 @@ protected:
     test::RecordingLog log;
 };
 
-TEST_F(MonthCommandTest, BeforeTheFirstStartAMonthIsReadWithoutWritingInTheDataFolder)
+// Before the first start a month is read without writing in the data folder; after it, a year
+// past the working copy is added to it, once.
+TEST_F(MonthCommandTest, AMonthIsReadWithoutAWorkingCopyAndAYearPastItIsAddedToIt)
 {
     // 1405 is shipped; 1412 lies past the shipped years and is computed on a copy.
     for (const char* month : {"1405-09", "1412-01"}) {
@@ -114,12 +113,8 @@ TEST_F(MonthCommandTest, BeforeTheFirstStartAMonthIsReadWithoutWritingInTheDataF
     EXPECT_TRUE(fs::is_empty(tmp()));
     ASSERT_FALSE(log.lines.empty());
     EXPECT_NE(log.lines.back().find("1412"), std::string::npos) << log.lines.back();
-}
 
-TEST_F(MonthCommandTest, AYearPastTheWorkingCopyIsAddedToIt)
-{
     testing::internal::CaptureStdout();
-    ASSERT_EQ(printMonth("1405-09", clock, calendar, paths, log), 0);
     fs::create_directories(data());
     fs::copy_file(fs::path(KAVENDA_RESOURCE_DIR) / "Icons", data() / "Icons");
     EXPECT_EQ(printYear("1412", clock, calendar, paths, log), 0);

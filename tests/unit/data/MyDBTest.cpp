@@ -5,6 +5,8 @@
 
 #include "data/DataFolderLock.h"
 #include "data/DatabaseCheck.h"
+#include "data/IntValue.h"
+#include "data/NameMatching.h"
 #include "tests/support/FixtureDatabase.h"
 
 #include <sqlite3.h>
@@ -15,6 +17,7 @@
 #include <functional>
 #include <optional>
 #include <thread>
+#include <tuple>
 
 #include <sys/resource.h>
 
@@ -23,7 +26,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The working copy is made by the fixture's MyDB; the tests of its making open their own.
 class MyDBTest : public test::WorkingCopy {
 protected:
     fs::path resource() const { return paths.resourceFolder() / "Icons"; }
@@ -86,34 +88,23 @@ TEST_F(MyDBTest, FirstUseCopiesTheResourceAndLaterUsesNeverOverwrite)
 // results, writes refused and logged, and the program goes on.
 TEST_F(MyDBTest, AMissingOrUnopenableFileYieldsEmptyResults)
 {
-    std::optional<MyDB> other;
-    const std::pair<const char*, std::function<MyDB&()>> cases[] = {
-        {"deleted",
-         [this]() -> MyDB& {
-             fs::remove(db.dbPath());
-             return db;
-         }},
-        {"a folder in its place",
-         [this, &other]() -> MyDB& {
-             fs::remove(db.dbPath());
-             fs::create_directory(db.dbPath());
-             return other.emplace("Icons", paths, log);
-         }},
-        {"no resource",
-         [this, &other]() -> MyDB& {
-             fs::remove_all(paths.documentsFolder());
-             fs::remove(resource());
-             return other.emplace("Icons", paths, log);
-         }},
-    };
-    for (const auto& [what, damage] : cases) {
-        MyDB& broken = damage();
+    const auto yieldsNothing = [this](MyDB& broken, const char* what) {
         log.lines.clear();
         EXPECT_TRUE(broken.run("SELECT * FROM tSetting").empty()) << what;
         EXPECT_EQ(broken.ExecuteScaler("SELECT COUNT(*) FROM tSetting"), std::nullopt) << what;
         EXPECT_FALSE(broken.ExecuteNonQuery("UPDATE tSetting SET Item6=1")) << what;
         EXPECT_EQ(log.lines.size(), 1u) << what;
-    }
+    };
+    fs::remove(db.dbPath());
+    yieldsNothing(db, "deleted");
+    fs::remove(db.dbPath());
+    fs::create_directory(db.dbPath());
+    MyDB folder("Icons", paths, log);
+    yieldsNothing(folder, "a folder in its place");
+    fs::remove_all(paths.documentsFolder());
+    fs::remove(resource());
+    MyDB none("Icons", paths, log);
+    yieldsNothing(none, "no resource");
 }
 
 TEST_F(MyDBTest, ACopyCutShortLeavesNoFile)
@@ -139,11 +130,9 @@ TEST_F(MyDBTest, ACopyCutShortLeavesNoFile)
 
     EXPECT_FALSE(copied);
     EXPECT_EQ(cause, std::errc::file_too_large) << cause.message();
-    // Nothing but the folder's lock file.
     for (const auto& entry : fs::directory_iterator(paths.documentsFolder()))
         EXPECT_EQ(entry.path().filename(), DataFolderLock::fileName);
 
-    // The next start copies the whole file.
     MyDB whole("Icons", paths, log);
     EXPECT_EQ(fs::file_size(whole.dbPath()), fs::file_size(resource()));
 }
@@ -207,6 +196,55 @@ TEST(DatabaseCheck, AShippedDatabaseThatCannotServeIsNamed)
         EXPECT_NE(problem->message.find(file.string()), std::string::npos) << what;
         EXPECT_NE(problem->message.find("دوباره نصب"), std::string::npos) << what;
     }
+}
+
+TEST(IntValue, ReadsLeadingDigitsLikeThePlatform)
+{
+    // clang-format off
+    const std::pair<const char*, int> cases[] = {{"15", 15},  {"4:35", 4}, {"", 0},   {"abc", 0},
+                                                 {"  -3", -3}, {"+7x", 7},  {"-", 0},  {"08", 8},
+                                                 {"99999999999", 2147483647}, {"-99999999999", -2147483647 - 1}};
+    // clang-format on
+    for (const auto& [text, value] : cases)
+        EXPECT_EQ(intValue(text), value) << '"' << text << '"';
+}
+
+constexpr const char* joiner = "\u200C";
+
+TEST(NameMatching, MatchesAsLikeDoesWithoutMindingNonJoiners)
+{
+    const std::string withJoiner = std::string("خرم") + joiner + "آباد";
+    // clang-format off
+    const std::tuple<std::string, std::string, bool> cases[] = {
+        {"%%", "تهران", true},
+        {"%هرا", "تهران", false},
+        {"ته%", "تهران", true},
+        {"ت_ران", "تهران", true},     // "_" is one letter, not one byte
+        {"%ABC%", "xabcx", true},      // Latin letters in either case
+        {"%ي%", "ی", false},           // Arabic and Persian yeh stay different letters
+        {"%a%b%c", "aXbXbc", true},    // a later try of a "%" after a first one failed
+        {"%خرمآباد%", withJoiner, true},
+        {"%" + withJoiner + "%", "خرمآباد", true},
+        {std::string("%خرم") + joiner + "%", "شهر خرمآباد", true},
+        {"%خرم آباد%", withJoiner, false},  // a blank is not a non-joiner
+        {"9201__", "9201011", false},
+        {std::string("\xFF%"), "\xFF" "x", true},  // a stray byte matches itself
+    };
+    // clang-format on
+    for (const auto& [pattern, text, matches] : cases)
+        EXPECT_EQ(likeMatches(pattern, text), matches) << pattern << " / " << text;
+}
+
+using NameMatchingInTheDatabase = test::WorkingCopy;
+
+TEST_F(NameMatchingInTheDatabase, EveryLikeMatchesThatWay)
+{
+    ASSERT_TRUE(db.ExecuteNonQuery(std::string("INSERT INTO tStates(StateID, Name, ParentID) VALUES(9, 'خرم") + joiner
+                                   + "آباد', 1)"));
+    EXPECT_EQ(db.ExecuteScaler("SELECT StateID FROM tStates WHERE Name LIKE '%خرمآباد%'"), "9");
+    EXPECT_EQ(db.ExecuteScaler("SELECT COUNT(*) FROM tEvents WHERE Date LIKE '9202__'"),
+              db.ExecuteScaler("SELECT COUNT(*) FROM tEvents WHERE Date BETWEEN 920200 AND 920299"))
+        << "integer date keys are matched by their decimal text";
 }
 
 }  // namespace

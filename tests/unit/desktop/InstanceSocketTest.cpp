@@ -45,42 +45,33 @@ private:
     std::optional<std::string> old_;
 };
 
-fs::path privateFolder(const fs::path& path)
-{
-    fs::create_directories(path);
-    ::chmod(path.c_str(), 0700);
-    return path;
-}
-
-// The line a caller sent, as the listener reads it.
+// The line a caller sent, as the listener reads it: sending is done when send() returns.
 std::string receivedLine(const InstanceSocket& listener)
 {
-    int peer = -1;
-    for (int tries = 0; peer < 0 && tries < 200; ++tries) {
-        peer = listener.acceptCaller();
-        if (peer < 0)
-            ::usleep(10'000);
-    }
+    const int peer = listener.acceptCaller();
     if (peer < 0)
         return "<nobody called>";
     std::string line;
     char c = 0;
-    for (int tries = 0; tries < 200 && line.find('\n') == std::string::npos;) {
-        const ssize_t count = ::read(peer, &c, 1);
-        if (count == 1)
-            line += c;
-        else if (count == 0)
-            break;
-        else
-            ::usleep(10'000), ++tries;
-    }
+    while (line.find('\n') == std::string::npos && ::read(peer, &c, 1) == 1)
+        line += c;
     ::close(peer);
     return line;
 }
 
+// A socket bound to the path and not listening, as a program that died leaves it; -1 if the bind fails.
+int boundSocket(const fs::path& path)
+{
+    const int fd = ::socket(AF_UNIX, SOCK_STREAM, 0);
+    sockaddr_un address{};
+    address.sun_family = AF_UNIX;
+    std::snprintf(address.sun_path, sizeof address.sun_path, "%s", path.c_str());
+    return ::bind(fd, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0 ? fd : -1;
+}
+
 // Runs work in a child whose effective user is nobody while it still finds paths as root (its
-// file-system id), so that it can reach a socket in our private folder; the child's status.
-int asNobodyReachingOurFolder(const std::function<int()>& work)
+// file-system id), so that it can reach a socket in our private folder; the child's id.
+pid_t asNobodyReachingOurFolder(const std::function<int()>& work)
 {
     const pid_t child = ::fork();
     if (child == 0) {
@@ -89,6 +80,11 @@ int asNobodyReachingOurFolder(const std::function<int()>& work)
         ::setfsuid(0);
         ::_exit(work());
     }
+    return child;
+}
+
+int exitStatus(pid_t child)
+{
     int status = 0;
     ::waitpid(child, &status, 0);
     return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
@@ -100,49 +96,39 @@ protected:
     ScopedEnv runtime{"XDG_RUNTIME_DIR", (temp.path() / "runtime").string()};
     ScopedEnv tmpdir{"TMPDIR", (temp.path() / "tmp").string()};
     fs::path data = temp.path() / "data";
+    fs::path fallback = temp.path() / "tmp" / ("kavenda-" + std::to_string(::getuid()));
 
     void SetUp() override
     {
-        privateFolder(temp.path() / "runtime");
+        fs::create_directories(temp.path() / "runtime");
+        ::chmod((temp.path() / "runtime").c_str(), 0700);
         fs::create_directories(temp.path() / "tmp");
         ::chmod((temp.path() / "tmp").c_str(), 01777);
         fs::create_directories(data);
     }
 };
 
-TEST_F(InstanceSocketTest, AMessageReachesTheProgramOfTheSameFolderOnly)
+// A message reaches the program of the same folder only; the socket goes with the program, and
+// one left by a crash is replaced.
+TEST_F(InstanceSocketTest, AMessageReachesTheProgramOfTheSameFolderOnlyWhileItRuns)
 {
     EXPECT_FALSE(sendToRunningInstance(data, "show")) << "nobody listens yet";
-    InstanceSocket running(data);
-    ASSERT_TRUE(running.listen());
-    EXPECT_EQ(running.path().parent_path(), temp.path() / "runtime");
-
-    EXPECT_TRUE(sendToRunningInstance(data / "." / "", "quit"));
-    EXPECT_EQ(receivedLine(running), "quit\n");
-    fs::create_directories(temp.path() / "other");
-    EXPECT_FALSE(sendToRunningInstance(temp.path() / "other", "show"));
-
-    InstanceSocket second(data);
-    EXPECT_FALSE(second.listen()) << "a running program keeps its socket";
-}
-
-TEST_F(InstanceSocketTest, TheSocketGoesWithTheProgramAndOneLeftByACrashIsReplaced)
-{
     fs::path path;
     {
         InstanceSocket running(data);
         ASSERT_TRUE(running.listen());
         path = running.path();
-        EXPECT_TRUE(fs::exists(path));
+        EXPECT_EQ(path.parent_path(), temp.path() / "runtime");
+        EXPECT_TRUE(sendToRunningInstance(data / "." / "", "quit"));
+        EXPECT_EQ(receivedLine(running), "quit\n");
+        fs::create_directories(temp.path() / "other");
+        EXPECT_FALSE(sendToRunningInstance(temp.path() / "other", "show"));
+        EXPECT_FALSE(InstanceSocket(data).listen()) << "a running program keeps its socket";
     }
     EXPECT_FALSE(fs::exists(path)) << "a clean exit removes the socket";
 
-    // A socket file whose program died: bound, never unlinked.
-    const int dead = ::socket(AF_UNIX, SOCK_STREAM, 0);
-    sockaddr_un address{};
-    address.sun_family = AF_UNIX;
-    std::snprintf(address.sun_path, sizeof address.sun_path, "%s", path.c_str());
-    ASSERT_EQ(::bind(dead, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+    const int dead = boundSocket(path);
+    ASSERT_GE(dead, 0);
     ::close(dead);
     EXPECT_FALSE(sendToRunningInstance(data, "show"));
     InstanceSocket next(data);
@@ -151,9 +137,9 @@ TEST_F(InstanceSocketTest, TheSocketGoesWithTheProgramAndOneLeftByACrashIsReplac
     EXPECT_EQ(receivedLine(next), "show\n");
 }
 
+// A runtime folder that is not private gives way to one of our own, not one another user made.
 TEST_F(InstanceSocketTest, ARuntimeFolderThatIsNotPrivateGivesWayToOneOfOurOwn)
 {
-    const fs::path fallback = temp.path() / "tmp" / ("kavenda-" + std::to_string(::getuid()));
     const fs::path open = temp.path() / "open";
     fs::create_directories(open);
     ::chmod(open.c_str(), 0755);
@@ -172,13 +158,9 @@ TEST_F(InstanceSocketTest, ARuntimeFolderThatIsNotPrivateGivesWayToOneOfOurOwn)
         ASSERT_EQ(::lstat(fallback.c_str(), &status), 0) << what;
         EXPECT_EQ(status.st_mode & 0777, 0700u) << what;
     }
-}
 
-TEST_F(InstanceSocketTest, AFallbackFolderMadeByAnotherUserIsNotUsed)
-{
+    // A fallback folder made by another user is not used.
     const ScopedEnv variable("XDG_RUNTIME_DIR", std::nullopt);
-    const fs::path fallback = temp.path() / "tmp" / ("kavenda-" + std::to_string(::getuid()));
-    fs::create_directories(fallback);
     ::chmod(fallback.c_str(), 0777);
     EXPECT_EQ(InstanceSocket::runtimeFolder(), std::nullopt) << "open to everyone";
     if (::getuid() == 0) {
@@ -199,7 +181,7 @@ TEST_F(InstanceSocketTest, NeitherEndTrustsAnotherUser)
     InstanceSocket running(data);
     ASSERT_TRUE(running.listen());
     // A caller of another user reaches the socket: turned away, its line never read.
-    EXPECT_EQ(asNobodyReachingOurFolder([&] { return sendToRunningInstance(data, "quit") ? 0 : 1; }), 0);
+    EXPECT_EQ(exitStatus(asNobodyReachingOurFolder([&] { return sendToRunningInstance(data, "quit") ? 0 : 1; })), 0);
     EXPECT_EQ(running.acceptCaller(), -1);
 
     // A listener of another user on our socket's name: our message is not handed to it.
@@ -208,21 +190,13 @@ TEST_F(InstanceSocketTest, NeitherEndTrustsAnotherUser)
     InstanceSocket ours(elsewhere);
     int ready[2];
     ASSERT_EQ(::pipe(ready), 0);
-    const pid_t child = ::fork();
-    if (child == 0) {
-        ::setresuid(0, nobody, 0);
-        ::setfsuid(0);
-        const int listener = ::socket(AF_UNIX, SOCK_STREAM, 0);
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        std::snprintf(address.sun_path, sizeof address.sun_path, "%s", ours.path().c_str());
-        const bool bound =
-            ::bind(listener, reinterpret_cast<sockaddr*>(&address), sizeof address) == 0 && ::listen(listener, 4) == 0;
-        const char mark = bound ? 'y' : 'n';
+    const pid_t child = asNobodyReachingOurFolder([&] {
+        const int listener = boundSocket(ours.path());
+        const char mark = listener >= 0 && ::listen(listener, 4) == 0 ? 'y' : 'n';
         [[maybe_unused]] const ssize_t written = ::write(ready[1], &mark, 1);
         ::pause();
-        ::_exit(0);
-    }
+        return 0;
+    });
     char mark = 0;
     ASSERT_EQ(::read(ready[0], &mark, 1), 1);
     EXPECT_EQ(mark, 'y');

@@ -8,13 +8,12 @@
 
 #include <gtest/gtest.h>
 #include <unicode/calendar.h>
-#include <unicode/gregocal.h>
 #include <unicode/timezone.h>
 
 #include <cstdlib>
 #include <ctime>
 #include <memory>
-#include <string>
+#include <tuple>
 
 namespace kavenda {
 namespace {
@@ -25,56 +24,46 @@ int get(const icu::Calendar& calendar, UCalendarDateFields field)
     return calendar.get(field, status);
 }
 
-std::unique_ptr<icu::Calendar> icuCalendar(const char* locale, const icu::TimeZone& zone)
+std::unique_ptr<icu::Calendar> icuCalendar(const char* locale, const char* zone)
 {
     UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::Calendar> calendar(icu::Calendar::createInstance(zone.clone(), icu::Locale(locale), status));
+    std::unique_ptr<icu::Calendar> calendar(
+        icu::Calendar::createInstance(icu::TimeZone::createTimeZone(zone), icu::Locale(locale), status));
     EXPECT_TRUE(U_SUCCESS(status));
     return calendar;
 }
 
-// Both libraries in one zone for the length of a test.
-class InZone {
-public:
-    explicit InZone(const char* zone) : before_(std::getenv("TZ") ? std::getenv("TZ") : "")
+// Both libraries in one zone for the length of a test; the tests' own zone again after it.
+struct InZone {
+    explicit InZone(const char* zone) { use(zone); }
+    ~InZone() { use("Asia/Tehran"); }
+    static void use(const char* zone)
     {
         ::setenv("TZ", zone, 1);
         ::tzset();
         icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(zone));
     }
-    ~InZone()
-    {
-        ::setenv("TZ", before_.c_str(), 1);
-        ::tzset();
-        icu::TimeZone::adoptDefault(icu::TimeZone::createTimeZone(before_.c_str()));
-    }
-    InZone(const InZone&) = delete;
-    InZone& operator=(const InZone&) = delete;
-
-private:
-    std::string before_;
 };
 
 TEST(SystemPersianCalendar, EveryDayOfFiveCenturiesIsIcusDay)
 {
-    auto persian = icuCalendar("fa_IR@calendar=persian", *icu::TimeZone::getGMT());
-    auto gregorian = icuCalendar("en_US@calendar=gregorian", *icu::TimeZone::getGMT());
+    auto persian = icuCalendar("fa_IR@calendar=persian", "GMT");
+    auto gregorian = icuCalendar("en_US@calendar=gregorian", "GMT");
     persian->clear();
     persian->set(1200, 0, 1, 12, 0, 0);
     UErrorCode status = U_ZERO_ERROR;
     int wrong = 0;
     for (almanac::DayCalendar days(1200); days.current().persianYear < 1700; days.next()) {
-        const almanac::CalendarDay day = days.current();
+        const almanac::CalendarDay d = days.current();
         gregorian->setTime(persian->getTime(status), status);
-        const bool same = day.persianYear == get(*persian, UCAL_YEAR)
-            && day.persianMonth == get(*persian, UCAL_MONTH) + 1 && day.persianDay == get(*persian, UCAL_DATE)
-            && day.gregorianYear == get(*gregorian, UCAL_YEAR) && day.gregorianMonth == get(*gregorian, UCAL_MONTH) + 1
-            && day.gregorianDay == get(*gregorian, UCAL_DATE)
-            && almanac::persianJulianDayNumber(day.persianYear, day.persianMonth, day.persianDay)
-                == day.julianDayNumber;
+        const bool same = std::tuple(d.persianYear, d.persianMonth, d.persianDay, d.gregorianYear, d.gregorianMonth,
+                                     d.gregorianDay, d.julianDayNumber)
+            == std::tuple(get(*persian, UCAL_YEAR), get(*persian, UCAL_MONTH) + 1, get(*persian, UCAL_DATE),
+                          get(*gregorian, UCAL_YEAR), get(*gregorian, UCAL_MONTH) + 1, get(*gregorian, UCAL_DATE),
+                          almanac::persianJulianDayNumber(d.persianYear, d.persianMonth, d.persianDay));
         if (!same && ++wrong < 5)
-            ADD_FAILURE() << day.persianYear << "-" << day.persianMonth << "-" << day.persianDay << " is "
-                          << day.gregorianYear << "-" << day.gregorianMonth << "-" << day.gregorianDay;
+            ADD_FAILURE() << d.persianYear << "-" << d.persianMonth << "-" << d.persianDay << " is " << d.gregorianYear
+                          << "-" << d.gregorianMonth << "-" << d.gregorianDay;
         persian->add(UCAL_DATE, 1, status);
     }
     ASSERT_TRUE(U_SUCCESS(status));
@@ -84,17 +73,11 @@ TEST(SystemPersianCalendar, EveryDayOfFiveCenturiesIsIcusDay)
 TEST(SystemPersianCalendar, DaysOfTheYearRunOnPastAShortEsfandAsIcusDo)
 {
     SystemPersianCalendar calendar;
-    // clang-format off
-    const struct { int year, month, day, dayOfYear; } cases[] = {
-        {1403, 12, 30, 366},  // leap
-        {1407, 12, 30, 1},    // not leap: the next year's first day
-        {1408, 12, 30, 366},
-        {1404, 7, 1, 187},
-        {1404, 13, 1, 1},
-    };
-    // clang-format on
-    for (const auto& c : cases)
-        EXPECT_EQ(calendar.dayOfYear(c.year, c.month, c.day), c.dayOfYear) << c.year << "-" << c.month << "-" << c.day;
+    // 1403 and 1408 are leap; 30 Esfand 1407 is the next year's first day.
+    const int cases[][4] = {
+        {1403, 12, 30, 366}, {1407, 12, 30, 1}, {1408, 12, 30, 366}, {1404, 7, 1, 187}, {1404, 13, 1, 1}};
+    for (const auto& [year, month, day, dayOfYear] : cases)
+        EXPECT_EQ(calendar.dayOfYear(year, month, day), dayOfYear) << year << "-" << month << "-" << day;
 }
 
 // Every half hour of the days around each change of the clocks, read both ways.
@@ -103,37 +86,37 @@ TEST(SystemPersianCalendar, MomentsAroundEachChangeOfTheClocksAreIcus)
     for (const char* zone : {"Asia/Tehran", "America/New_York", "Australia/Lord_Howe"}) {
         const InZone in(zone);
         SystemPersianCalendar calendar;
-        auto persian = icuCalendar("fa_IR@calendar=persian", *icu::TimeZone::createTimeZone(zone));
-        auto gregorian = icuCalendar("en_US@calendar=gregorian", *icu::TimeZone::createTimeZone(zone));
+        auto persian = icuCalendar("fa_IR@calendar=persian", zone);
+        auto gregorian = icuCalendar("en_US@calendar=gregorian", zone);
         EXPECT_EQ(calendar.timeZoneId(), zone);
+        UErrorCode status = U_ZERO_ERROR;
+        const auto at = [&](int year, int month, int day, int hour, int minute) {
+            persian->clear();
+            persian->set(year, month - 1, day, hour, minute, 0);
+            return persian->getTime(status);
+        };
+        const auto savingAt = [&](double moment) {
+            persian->setTime(moment, status);
+            return get(*persian, UCAL_DST_OFFSET);
+        };
         int checked = 0;
         for (int year = 1385; year <= 1405; ++year)
             for (int month = 1; month <= 12; ++month)
-                for (int day = 1; day <= 31; day += 1) {
-                    UErrorCode status = U_ZERO_ERROR;
-                    persian->clear();
-                    persian->set(year, month - 1, day, 12, 0, 0);
-                    const double noon = persian->getTime(status);
-                    const auto savingAt = [&](double moment) {
-                        persian->setTime(moment, status);
-                        return get(*persian, UCAL_DST_OFFSET);
-                    };
-                    const bool changes = savingAt(noon - 86'400'000.0) != savingAt(noon + 86'400'000.0);
-                    if (!changes || day > 30)
+                for (int day = 1; day <= 30; ++day) {
+                    const double noon = at(year, month, day, 12, 0);
+                    if (savingAt(noon - 86'400'000.0) == savingAt(noon + 86'400'000.0))
                         continue;
-                    for (int halfHours = 0; halfHours < 48; ++halfHours) {
-                        const int hour = halfHours / 2, minute = 30 * (halfHours % 2);
-                        persian->clear();
-                        persian->set(year, month - 1, day, hour, minute, 0);
-                        const auto expected = static_cast<long long>(persian->getTime(status) / 1000);
+                    for (int minutes = 0; minutes < 24 * 60; minutes += 30) {
+                        const int hour = minutes / 60, minute = minutes % 60;
+                        const auto expected = static_cast<long long>(at(year, month, day, hour, minute) / 1000);
                         const Instant moment = calendar.instantOf(year, month, day, hour, minute);
                         ASSERT_EQ(moment.time_since_epoch().count(), expected)
                             << zone << " " << year << "-" << month << "-" << day << " " << hour << ":" << minute;
                         gregorian->setTime(static_cast<double>(expected) * 1000, status);
                         const CivilTime fields = calendar.gregorianFields(moment);
-                        ASSERT_EQ(fields.day, get(*gregorian, UCAL_DATE));
-                        ASSERT_EQ(fields.hour * 60 + fields.minute,
-                                  get(*gregorian, UCAL_HOUR_OF_DAY) * 60 + get(*gregorian, UCAL_MINUTE));
+                        ASSERT_EQ(std::tuple(fields.day, fields.hour, fields.minute),
+                                  std::tuple(get(*gregorian, UCAL_DATE), get(*gregorian, UCAL_HOUR_OF_DAY),
+                                             get(*gregorian, UCAL_MINUTE)));
                         ++checked;
                     }
                 }

@@ -4,13 +4,21 @@
 #include "reminders/MyNotification.h"
 
 #include "desktop/SystemPersianCalendar.h"
+#include "reminders/NextReminderText.h"
+#include "reminders/ReminderSound.h"
 #include "tests/support/FixedClock.h"
+#include "tests/support/FixedPaths.h"
 #include "tests/support/FixtureDatabase.h"
+#include "tests/support/RecordingAudioPlayer.h"
+#include "tests/support/RecordingLog.h"
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TehranTime.h"
+#include "tests/support/TempFolder.h"
 
 #include <algorithm>
+#include <fstream>
+#include <tuple>
 
 namespace kavenda {
 namespace {
@@ -20,9 +28,6 @@ using test::tehran;
 class Reminders : public test::WorkingCopy {
 protected:
     Reminders() : WorkingCopy({"fixture-data.sql", "offset-city.sql"}) {}
-
-    void choose(int stateId) { exec("INSERT INTO tSelectedStates VALUES(" + std::to_string(stateId) + ", 1)"); }
-    void settings(const std::string& assignments) { exec("UPDATE tSetting SET " + assignments); }
 
     std::vector<NotificationRecord> update()
     {
@@ -46,16 +51,11 @@ protected:
 
 TEST_F(Reminders, ACentreWithEverythingOnJustAfterMidnightGetsSixADayForFiveDays)
 {
-    choose(32);
-    settings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 10, Item4 = 20, Item5 = 30, Item6 = 9");
+    choose({32});
+    setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 10, Item4 = 20, Item5 = 30, Item6 = 9");
     const auto records = update();
     ASSERT_EQ(records.size(), 30u);
-    const struct {
-        std::size_t index;
-        const char* body;
-        Instant at;
-        const char* sound;
-    } expected[] = {
+    const std::tuple<std::size_t, const char*, Instant, const char*> expected[] = {
         {0, "اذان صبح به افق تهران", tehran(2013, 5, 22, 5, 40), "3.wav"},  // 4:40 standard + summer hour
         {1, "اذان ظهر به افق تهران", tehran(2013, 5, 22, 12, 53), "7.wav"},
         {2, "اذان مغرب به افق تهران", tehran(2013, 5, 22, 20, 42), "1.wav"},  // 19:42 on 1 Khordad
@@ -64,15 +64,12 @@ TEST_F(Reminders, ACentreWithEverythingOnJustAfterMidnightGetsSixADayForFiveDays
         {5, "تا اذان مغرب تنها ٣٠ دقیفه زمان باقیست", tehran(2013, 5, 22, 20, 12), "12.wav"},
         {29, "تا اذان مغرب تنها ٣٠ دقیفه زمان باقیست", tehran(2013, 5, 26, 17, 54), "12.wav"},  // 5 Khordad
     };
-    for (const auto& e : expected) {
-        EXPECT_EQ(records[e.index].alertBody, e.body) << e.index;
-        EXPECT_EQ(records[e.index].fireDate, e.at) << e.index;
-        EXPECT_EQ(records[e.index].soundName, e.sound) << e.index;
-    }
-    for (const auto& record : records) {
-        EXPECT_EQ(record.alertAction, "Ok");
-        EXPECT_EQ(record.timeZone, "Asia/Tehran");
-    }
+    for (const auto& [index, body, at, sound] : expected)
+        EXPECT_EQ(std::tie(records[index].alertBody, records[index].fireDate, records[index].soundName),
+                  std::tuple(body, at, sound))
+            << index;
+    for (const auto& record : records)
+        EXPECT_EQ(record.alertAction + " " + record.timeZone, "Ok Asia/Tehran");
     // Sound 9 draws for every record; the log shows the number drawn, also beside a fixed sound.
     ASSERT_EQ(log.lines.size(), 30u);
     EXPECT_EQ(log.lines[0], "22 5 2013 / 5:40 - 3 - 3.wav");
@@ -84,8 +81,8 @@ TEST_F(Reminders, ACentreWithEverythingOnJustAfterMidnightGetsSixADayForFiveDays
 TEST_F(Reminders, AnOffsetCityIsShiftedPerColumnForFourDays)
 {
     clock.set(tehran(2013, 11, 11, 0, 1));  // 20 Aban 1392
-    choose(63);
-    settings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 15, Item4 = 30, Item5 = 10");
+    choose({63});
+    setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 15, Item4 = 30, Item5 = 10");
     const auto records = update();
     ASSERT_EQ(records.size(), 24u);
     EXPECT_EQ(records[0].alertBody, "اذان صبح به افق شهریار");
@@ -99,25 +96,11 @@ TEST_F(Reminders, AnOffsetCityIsShiftedPerColumnForFourDays)
     EXPECT_EQ(records[23].fireDate, tehran(2013, 11, 14, 17, 24));  // the fourth day is the last
 }
 
-TEST_F(Reminders, TheFirstCityOfTheListIsAnnounced)
-{
-    exec("INSERT INTO tSelectedStates VALUES(32, 2), (33, 1)");
-    settings("Item0 = 1, Item1 = 0, Item2 = 0");
-    const auto records = update();
-    ASSERT_EQ(records.size(), 5u);
-    EXPECT_EQ(records[0].alertBody, "اذان صبح به افق اصفهان");
-    EXPECT_EQ(records[0].fireDate, tehran(2013, 5, 22, 5, 56));  // اصفهان's 4:56 on 920301
-}
-
 // Without its own offset row first, a non-centre city would be announced with its centre's
 // times unshifted, or with an offset read from a day's times.
 TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
 {
-    const struct {
-        const char* name;
-        int city;
-        std::vector<std::string> changes;
-    } cases[] = {
+    const std::tuple<const char*, int, std::vector<std::string>> cases[] = {
         {"no offset row", 63, {"DELETE FROM tTimes WHERE StateID = 63"}},
         {"a day's row instead",
          63,
@@ -127,31 +110,27 @@ TEST_F(Reminders, ANonCentreCityWithoutItsOwnOffsetRowFirstGetsNoPrayerTimes)
          {"INSERT INTO tStates(StateID, Name, ParentID, IsCenter) VALUES(20, 'اسلامشهر', 1, 0)",
           "INSERT INTO tTimes VALUES(20, 14000101, 1, 1, 1, 1, 1, 1)"}},
     };
-    settings("Item0 = 1, Item1 = 1, Item2 = 1, Item7 = '08:00'");
-    for (const auto& c : cases) {
+    setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item7 = '08:00'");
+    for (const auto& [name, city, changes] : cases) {
         exec("DELETE FROM tSelectedStates");
         exec("DELETE FROM tTimes WHERE StateID = 63");
         exec("INSERT INTO tTimes VALUES(63, 14000101, -3, 2, 5, 0, 7, 0)");
-        for (const std::string& change : c.changes)
+        for (const std::string& change : changes)
             exec(change);
-        choose(c.city);
+        choose({city});
         update();
-        EXPECT_EQ(withSound("0.wav"), 0u) << c.name;
-        EXPECT_EQ(withSound("times.wav"), 5u) << c.name;
+        EXPECT_EQ(withSound("0.wav"), 0u) << name;
+        EXPECT_EQ(withSound("times.wav"), 5u) << name;
     }
 }
 
-// Each reminder takes the summer hour of its own day; keys of seven characters from 1400; no
-// summer hour from 1402. The next five rows held are announced, whatever their dates.
+// Each reminder takes the summer hour of its own day; keys of seven characters from 1400; no summer
+// hour from 1402. The next five rows held are announced, whatever their dates, for the first city.
 TEST_F(Reminders, EachDawnCallTakesTheSummerHourOfItsOwnDay)
 {
-    choose(32);
-    settings("Item0 = 1, Item1 = 0, Item2 = 0");
-    const struct {
-        Instant now;
-        std::size_t count, index;
-        Instant dawn;
-    } cases[] = {
+    choose({32});
+    setSettings("Item0 = 1, Item1 = 0, Item2 = 0");
+    const std::tuple<Instant, std::size_t, std::size_t, Instant> cases[] = {
         {tehran(2013, 9, 20, 0, 1), 5, 1, tehran(2013, 9, 21, 5, 40)},  // day 185: 4:40 + 1
         {tehran(2013, 9, 20, 0, 1), 5, 2, tehran(2013, 9, 22, 4, 41)},  // day 186: as stored
         {tehran(2014, 3, 18, 0, 1), 5, 2, tehran(2014, 3, 20, 4, 38)},  // 29 Esfand: as stored
@@ -161,20 +140,26 @@ TEST_F(Reminders, EachDawnCallTakesTheSummerHourOfItsOwnDay)
         {tehran(2013, 5, 22, 5, 40, 0), 5, 0, tehran(2013, 5, 22, 5, 40)},  // a moment equal to now goes out
         {tehran(2013, 5, 22, 5, 40, 1), 4, 0, tehran(2013, 5, 23, 5, 41)},  // a second late it does not
     };
-    for (const auto& c : cases) {
-        clock.set(c.now);
+    for (const auto& [now, count, index, dawn] : cases) {
+        clock.set(now);
         const auto records = update();
-        ASSERT_EQ(records.size(), c.count) << c.index;
-        EXPECT_EQ(records[c.index].fireDate, c.dawn) << c.index;
+        ASSERT_EQ(records.size(), count) << index;
+        EXPECT_EQ(records[index].fireDate, dawn) << index;
     }
+    exec("INSERT INTO tSelectedStates VALUES(33, -1)");
+    clock.set(tehran(2013, 5, 22, 0, 1));
+    const auto records = update();
+    ASSERT_EQ(records.size(), 5u);
+    EXPECT_EQ(records[0].alertBody, "اذان صبح به افق اصفهان");
+    EXPECT_EQ(records[0].fireDate, tehran(2013, 5, 22, 5, 56));  // اصفهان's 4:56 on 920301
 }
 
 TEST_F(Reminders, ADayWithoutATimeHasNoReminderForIt)
 {
     exec("UPDATE tTimes SET T3 = NULL WHERE StateID = 32 AND Date = 920302");
     exec("UPDATE tTimes SET T3 = '' WHERE StateID = 32 AND Date = 920303");
-    choose(32);
-    settings("Item0 = 0, Item1 = 1, Item2 = 0");
+    choose({32});
+    setSettings("Item0 = 0, Item1 = 1, Item2 = 0");
     const auto records = update();
     ASSERT_EQ(records.size(), 3u);
     EXPECT_EQ(records[1].fireDate, tehran(2013, 5, 25, 12, 49));  // 920304's 11:49 + 1
@@ -182,8 +167,8 @@ TEST_F(Reminders, ADayWithoutATimeHasNoReminderForIt)
 
 TEST_F(Reminders, AFixedSoundAndTheOccasionsSound)
 {
-    choose(32);
-    settings("Item0 = 1, Item1 = 1, Item2 = 1, Item6 = 10, Item7 = '08:00'");
+    choose({32});
+    setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item6 = 10, Item7 = '08:00'");
     update();
     EXPECT_EQ(withSound("10.wav"), 15u);
     EXPECT_EQ(withSound("times.wav"), notifications.records.size() - 15);
@@ -192,7 +177,7 @@ TEST_F(Reminders, AFixedSoundAndTheOccasionsSound)
 
 TEST_F(Reminders, NoChosenCitySchedulesNothingAtAll)
 {
-    settings("Item0 = 1, Item7 = '08:00'");
+    setSettings("Item0 = 1, Item7 = '08:00'");
     notifications.records.push_back(NotificationRecord{});
     EXPECT_TRUE(update().empty());
     EXPECT_EQ(notifications.cancelCalls, 1);
@@ -201,8 +186,8 @@ TEST_F(Reminders, NoChosenCitySchedulesNothingAtAll)
 
 TEST_F(Reminders, OccasionsAtTheChosenWallClockTime)
 {
-    choose(32);
-    settings("Item0 = 0, Item1 = 0, Item2 = 0, Item7 = '08:00'");
+    choose({32});
+    setSettings("Item0 = 0, Item1 = 0, Item2 = 0, Item7 = '08:00'");
     clock.set(tehran(2013, 5, 23, 7, 0));  // 2 Khordad, before eight
     auto records = update();
     ASSERT_EQ(records.size(), 5u);
@@ -219,11 +204,98 @@ TEST_F(Reminders, OccasionsAtTheChosenWallClockTime)
     EXPECT_EQ(records[0].fireDate, tehran(2013, 5, 25, 8, 0));
 
     for (const char* off : {"0", "", "8", "abc"}) {
-        settings(std::string("Item7 = '") + off + "'");
+        setSettings(std::string("Item7 = '") + off + "'");
         log.lines.clear();
         EXPECT_TRUE(update().empty()) << off;
         EXPECT_TRUE(log.lines.empty()) << off;
     }
+}
+
+// The tray's line: the earliest pending reminder, its time and the time left (a part of a minute
+// counts as a whole one).
+TEST(NextReminderText, NamesTheEarliestCallItsTimeAndTheTimeLeft)
+{
+    const auto reminder = [](Instant at, const std::string& body) {
+        return NotificationRecord{at, "Asia/Tehran", body, "Ok", "0.wav", {}};
+    };
+    SystemPersianCalendar calendar;
+    const Instant at = tehran(2026, 11, 22, 17, 13);
+    // clang-format off
+    const std::pair<Instant, std::string> cases[] = {
+        {tehran(2026, 11, 22, 14, 58), "٢ ساعت و ١٥ دقیقه"},
+        {tehran(2026, 11, 22, 14, 58, 30), "٢ ساعت و ١٥ دقیقه"},
+        {tehran(2026, 11, 22, 15, 13), "٢ ساعت"},
+        {tehran(2026, 11, 22, 17, 0), "١٣ دقیقه"},
+        {tehran(2026, 11, 22, 17, 12, 59), "١ دقیقه"},
+        {tehran(2026, 11, 20, 16, 3), "٢ روز و ١ ساعت و ١٠ دقیقه"},
+        {at, "کمتر از یک دقیقه"},
+    };
+    // clang-format on
+    for (const auto& [now, left] : cases)
+        EXPECT_EQ(nextReminderText({reminder(at, "اذان مغرب به افق تهران")}, now, calendar),
+                  "اذان مغرب به افق تهران، ١٧:١٣ (" + left + " دیگر)");
+
+    const std::vector<NotificationRecord> pending = {
+        reminder(tehran(2026, 11, 22, 11, 50), "اذان ظهر به افق تهران"),
+        reminder(tehran(2026, 11, 22, 8, 5), "وقایع امروز : \nروز ملی"),
+        reminder(tehran(2026, 11, 23, 5, 0), "اذان صبح به افق تهران"),
+    };
+    const Instant morning = tehran(2026, 11, 22, 6, 0);
+    EXPECT_EQ(nextReminderText(pending, morning, calendar), "وقایع امروز :  روز ملی، ٠٨:٠٥ (٢ ساعت و ٥ دقیقه دیگر)");
+    EXPECT_EQ(nextReminderText({}, morning, calendar), "");
+}
+
+using Calls = std::vector<std::string>;
+
+class ReminderSoundTest : public ::testing::Test {
+protected:
+    ReminderSoundTest()
+    {
+        for (const char* name : {"3.wav", "alarm.wav"})
+            std::ofstream(temp.path() / name) << "sound";
+    }
+
+    static NotificationRecord reminder(const std::string& soundName) { return {{}, "", "", "", soundName, {}}; }
+    std::string file(const std::string& name) const { return (temp.path() / name).string(); }
+
+    test::TempFolder temp;
+    FixedPaths paths{"/documents", temp.path()};
+    test::RecordingAudioPlayer audio;
+    test::RecordingLog log;
+    ReminderSound sound{audio, paths, log};
+};
+
+// A newer reminder cuts the older short and keeps its own ticket.
+TEST_F(ReminderSoundTest, PlaysTheReminderSoundFromTheResourcesUntilItEnds)
+{
+    EXPECT_EQ(sound.play(reminder("")), 0);
+    EXPECT_EQ(sound.play(reminder("missing.wav")), 0);
+    EXPECT_FALSE(sound.isPlaying());
+    EXPECT_NE(sound.play(reminder("3.wav")), 0);
+    EXPECT_TRUE(sound.isPlaying());
+    // The sound ends by itself: nothing is left to stop.
+    audio.playing = false;
+    EXPECT_FALSE(sound.isPlaying());
+    sound.stop();
+    EXPECT_EQ(audio.calls, (Calls{"open " + file("missing.wav"), "open " + file("3.wav"), "play"}));
+
+    audio.calls.clear();
+    log.lines.clear();
+    const int older = sound.play(reminder("3.wav"));
+    const int newer = sound.play(reminder("alarm.wav"));
+    EXPECT_NE(older, newer);
+    EXPECT_TRUE(sound.isPlaying());
+
+    // Closing the older reminder's alert leaves the newer sound alone; its own stops it.
+    sound.stop(older);
+    EXPECT_TRUE(sound.isPlaying());
+    sound.stop(newer);
+    EXPECT_FALSE(sound.isPlaying());
+    EXPECT_EQ(audio.calls,
+              (Calls{"open " + file("3.wav"), "play", "stop", "open " + file("alarm.wav"), "play", "stop"}));
+    EXPECT_EQ(log.lines,
+              (std::vector<std::string>{"sound playing: 3.wav", "sound stopped", "sound playing: alarm.wav",
+                                        "sound stopped"}));
 }
 
 }  // namespace

@@ -7,7 +7,6 @@
 #include "reminders/MyNotification.h"
 #include "reminders/ReplanWatch.h"
 
-#include "data/Statements.h"
 #include "desktop/SystemPersianCalendar.h"
 #include "reminders/ReminderQueue.h"
 #include "tests/support/FixedClock.h"
@@ -32,14 +31,12 @@ protected:
     RunningReminders() : WorkingCopy({})
     {
         // The three calls only: one record per call and day.
-        db.ExecuteNonQuery("UPDATE tSetting SET Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 0, Item4 = 0, Item5 = 0, "
-                           "Item7 = '0'");
-        db.ExecuteNonQuery(formatSql(sql::insertChosenCity, {tehranCentre, 1}));
+        setSettings("Item0 = 1, Item1 = 1, Item2 = 1, Item3 = 0, Item4 = 0, Item5 = 0, Item7 = '0'");
+        choose({tehranCentre});
         reminders.update();
         look();
     }
 
-    // One look of the running program.
     void look()
     {
         for (NotificationRecord& record : queue.takeDue(clock.now()))
@@ -126,33 +123,30 @@ TEST_F(RunningReminders, TenDaysRunningFireEveryCallOfTenDaysAtItsMoment)
     EXPECT_EQ(watch.nextLookIn(tehran(2026, 11, 22, 12, 0), 60'000ms), 60'000ms);
 }
 
-struct Jump {
-    std::chrono::minutes pastNoon;
-    bool fires;
-};
-
-class JumpOverTheNoonCall : public RunningReminders, public ::testing::WithParamInterface<Jump> {};
+class JumpOverTheNoonCall : public RunningReminders,
+                            public ::testing::WithParamInterface<std::pair<std::chrono::minutes, bool>> {};
 
 // From 11:00, before the noon call, the wall clock jumps past it; the later calls stay.
 TEST_P(JumpOverTheNoonCall, FiresWhatIsAtMostFifteenMinutesLateAndDropsTheRest)
 {
     run(11h - 1min);
     const Instant noonCall = stored(1, "T3");
-    jump(noonCall + GetParam().pastNoon - clock.now());
-    EXPECT_EQ(timesFired(noon, noonCall), GetParam().fires ? 1 : 0);
+    const auto [pastNoon, fires] = GetParam();
+    jump(noonCall + pastNoon - clock.now());
+    EXPECT_EQ(timesFired(noon, noonCall), fires ? 1 : 0);
     EXPECT_EQ(changes, std::vector<ReplanWatch::Change>{ReplanWatch::Change::clockJump});
 
     run(18h);
-    EXPECT_EQ(timesFired(noon, noonCall), GetParam().fires ? 1 : 0);
+    EXPECT_EQ(timesFired(noon, noonCall), fires ? 1 : 0);
     EXPECT_EQ(timesFired(evening, stored(1, "T5")), 1);
     EXPECT_EQ(timesFired(dawn, stored(2, "T1")), 1);
 }
 
 // clang-format off
 INSTANTIATE_TEST_SUITE_P(Lateness, JumpOverTheNoonCall,
-                         ::testing::Values(Jump{1min, true}, Jump{10min, true}, Jump{15min, true}, Jump{16min, false},
-                                           Jump{3h, false}),
-                         [](const auto& named) { return "Late" + std::to_string(named.param.pastNoon.count()) + "min"; });
+                         ::testing::Values(std::pair{1min, true}, std::pair{10min, true}, std::pair{15min, true},
+                                           std::pair{16min, false}, std::pair{std::chrono::minutes(3h), false}),
+                         [](const auto& named) { return "Late" + std::to_string(named.param.first.count()) + "min"; });
 // clang-format on
 
 TEST_F(RunningReminders, ANewTimeZoneRebuildsTheRemindersInIt)

@@ -14,22 +14,15 @@ namespace {
 
 const std::string mark = "\u200e";
 
-std::vector<std::string> lines(const std::string& text)
+// The lines printed, as a terminal without directional marks shows them unless marks are asked.
+std::vector<std::string> lines(const std::string& text, bool marks = false)
 {
     std::vector<std::string> found;
     std::istringstream in(text);
-    for (std::string line; std::getline(in, line);)
-        found.push_back(line);
-    return found;
-}
-
-// The lines as a terminal without directional marks shows them.
-std::vector<std::string> shown(std::vector<std::string> printed)
-{
-    for (std::string& line : printed)
-        for (std::size_t at; (at = line.find(mark)) != std::string::npos;)
+    for (std::string line; std::getline(in, line); found.push_back(line))
+        for (std::size_t at; !marks && (at = line.find(mark)) != std::string::npos;)
             line.erase(at, mark.size());
-    return printed;
+    return found;
 }
 
 // Terminal columns: one for each character, escapes aside.
@@ -89,28 +82,14 @@ TEST_F(TerminalTest, PrintsFarvardin1392WithItsHolidays)
         "٢٥* شهادت حضرت فاطمه زهرا (س) - روز بزرگداشت عطار نیشابوری",
         "٢٩ روز ارتش جمهوری اسلامی ایران",
     };
-    EXPECT_EQ(shown(lines(*printed)), expected);
-    EXPECT_EQ(printed->find('\x1b'), std::string::npos);
-}
-
-TEST_F(TerminalTest, ColoursHolidaysAndFridaysOnlyWhenAsked)
-{
-    const std::string red = "\x1b[31m";
-    const std::string plain = "\x1b[0m";
-    const std::vector<std::string> printed = shown(lines(*month.print({1392, 1}, true)));
-    // Thursday 1 (holiday) and Friday 2; Friday 9 is no holiday in the data but is coloured.
-    EXPECT_EQ(printed[2], std::string(15, ' ') + ' ' + red + " ١" + plain + ' ' + red + " ٢" + plain);
-    EXPECT_EQ(printed[3], ' ' + red + " ٣" + plain + ' ' + red + " ٤" + plain + "  ٥  ٦  ٧  ٨ " + red + " ٩" + plain);
-    EXPECT_EQ(printed[3].find("\x1b[31m ٥"), std::string::npos);
-    EXPECT_EQ(printed[9], red + "١*" + plain + " آغاز نوروز");
-    EXPECT_EQ(printed[15], "٢٠ روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
+    EXPECT_EQ(lines(*printed), expected);
 }
 
 // Every cell of the grid, weekday or day, opens with a left-to-right mark, three columns wide: 1
 // Azar 1405, a Sunday, stands under "ی" whether or not the terminal reorders the line.
 TEST_F(TerminalTest, TheGridKeepsItsColumnsInEveryTerminal)
 {
-    const std::vector<std::string> azar = lines(*month.print({1405, 9}, false));
+    const std::vector<std::string> azar = lines(*month.print({1405, 9}, false), true);
     const auto cells = [](const std::string& line) {
         std::vector<std::string> found;
         for (std::size_t at = line.find(mark); at != std::string::npos;) {
@@ -132,7 +111,7 @@ TEST_F(TerminalTest, TheGridKeepsItsColumnsInEveryTerminal)
 TEST_F(TerminalTest, LaterYearsAndMonthsOutsideTheData)
 {
     // Esfand 1408 has 30 days and starts on a Tuesday (336 days after Tuesday 1 Farvardin).
-    const std::vector<std::string> esfand = shown(lines(*month.print({1408, 12}, false)));
+    const std::vector<std::string> esfand = lines(*month.print({1408, 12}, false));
     EXPECT_EQ(esfand[0], "اسفند ١٤٠٨");
     EXPECT_EQ(esfand[2], std::string(9, ' ') + "  ١  ٢  ٣  ٤");
     EXPECT_EQ(esfand[6], " ٢٦ ٢٧ ٢٨ ٢٩ ٣٠");
@@ -146,7 +125,7 @@ TEST_F(TerminalTest, Prints1405AsTwelveMonthsThreeAcross)
 {
     const std::optional<std::string> printed = year.print(1405, false);
     ASSERT_TRUE(printed);
-    const std::vector<std::string> text = shown(lines(*printed));
+    const std::vector<std::string> text = lines(*printed);
     EXPECT_EQ(text[0], std::string(31, ' ') + "١٤٠٥");
     // Three names on the first row of months, the weekday initials under each.
     EXPECT_EQ(text[2].find("فروردین"), 7u) << text[2];
@@ -156,24 +135,29 @@ TEST_F(TerminalTest, Prints1405AsTwelveMonthsThreeAcross)
     EXPECT_EQ(text[4].substr(0, 4), "  ١") << text[4];
     for (const char* name : {"تیر", "مهر", "دی", "اسفند"})
         EXPECT_NE(printed->find(name), std::string::npos) << name;
-    for (const std::string& line : text)
-        EXPECT_LE(columns(line), 80u) << line;
-    EXPECT_EQ(printed->find('\x1b'), std::string::npos);
 }
 
-TEST_F(TerminalTest, ColoursHolidaysOnATerminal)
+// Holidays and Fridays in red, and only when asked. Farvardin 1392: Thursday 1 (a holiday),
+// Friday 2; Friday 9 is no holiday in the data but is coloured. 1405: 1 to 4 Farvardin (Saturday
+// to Tuesday) are holidays, 5 is not, Friday 7 is coloured.
+TEST_F(TerminalTest, ColoursHolidaysAndFridaysOnlyWhenAsked)
 {
-    const std::string red = "\x1b[31m";
-    const std::string plain = "\x1b[0m";
-    const std::vector<std::string> text = shown(lines(*year.print(1405, true)));
-    // 1 to 4 Farvardin (Saturday to Tuesday) are holidays, 5 is not, Friday 7 is coloured.
-    const std::string& week = text[4];
-    EXPECT_EQ(week.find(' ' + red + " ١" + plain + ' ' + red + " ٢" + plain + ' ' + red + " ٣" + plain + ' ' + red
-                        + " ٤" + plain + "  ٥  ٦ " + red + " ٧" + plain),
-              0u)
-        << week;
-    for (const std::string& line : text)
+    const auto red = [](const char* day) { return std::string("\x1b[31m") + day + "\x1b[0m"; };
+    const std::vector<std::string> farvardin = lines(*month.print({1392, 1}, true));
+    EXPECT_EQ(farvardin[2], std::string(15, ' ') + ' ' + red(" ١") + ' ' + red(" ٢"));
+    EXPECT_EQ(farvardin[3], ' ' + red(" ٣") + ' ' + red(" ٤") + "  ٥  ٦  ٧  ٨ " + red(" ٩"));
+    EXPECT_EQ(farvardin[9], red("١*") + " آغاز نوروز");
+    EXPECT_EQ(farvardin[15],
+              "٢٠ روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی");
+    const std::vector<std::string> year1405 = lines(*year.print(1405, true));
+    EXPECT_EQ(
+        year1405[4].find(' ' + red(" ١") + ' ' + red(" ٢") + ' ' + red(" ٣") + ' ' + red(" ٤") + "  ٥  ٦ " + red(" ٧")),
+        0u)
+        << year1405[4];
+    for (const std::string& line : year1405)
         EXPECT_LE(columns(line), 80u) << line;
+    EXPECT_EQ(month.print({1392, 1}, false)->find('\x1b'), std::string::npos);
+    EXPECT_EQ(year.print(1405, false)->find('\x1b'), std::string::npos);
 }
 
 }  // namespace

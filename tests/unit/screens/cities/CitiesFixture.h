@@ -10,17 +10,10 @@
 
 namespace kavenda::test {
 
-// The places of the city screens, and the chosen cities as "id:ordering" in ascending order.
+// The places of the city screens; the chosen cities as "id:ordering" in ascending order.
 class CitiesFixture : public WorkingCopy {
 protected:
     CitiesFixture() : WorkingCopy({"fixture-data.sql", "offset-city.sql", "cities.sql"}) {}
-
-    int count(std::string_view sql) { return std::stoi(db.ExecuteScaler(sql).value_or("-1")); }
-
-    void choose(int stateId, int ordering)
-    {
-        exec("INSERT INTO tSelectedStates VALUES(" + std::to_string(stateId) + ", " + std::to_string(ordering) + ")");
-    }
 
     std::vector<std::string> orderings()
     {

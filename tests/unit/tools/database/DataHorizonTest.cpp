@@ -60,19 +60,13 @@ TEST_F(DataHorizonTest, ComputedYearsAreTheShippedYearsToTheByte)
 TEST_F(DataHorizonTest, AddsOnlyWhatIsMissingAndOnlyAsFarAsAsked)
 {
     // What a person has made of the copy: a chosen centre, a city of their own, their settings.
-    exec(formatSql(sql::insertChosenCity, {tehranCentre, 1}));
+    choose({tehranCentre});
     exec(formatSql(sql::insertCity, {"ورامین", 8}));
-    ASSERT_TRUE(
-        db.ExecuteNonQuery(formatSql(sql::insertOffsetRow, {63, "14000101", "-2", "-2", "-1", "0", "0", "-1"})));
-    exec("UPDATE tSetting SET Item3 = 10, Item7 = '08:00'");
+    exec(formatSql(sql::insertOffsetRow, {63, "14000101", "-2", "-2", "-1", "0", "0", "-1"}));
+    setSettings("Item3 = 10, Item7 = '08:00'");
     const auto own = [this] {
-        std::string text;
-        for (const char* sql : {"SELECT * FROM tSelectedStates", "SELECT * FROM tSetting", "SELECT * FROM tStates",
-                                "SELECT * FROM tTimes WHERE StateID = 63", "SELECT * FROM tTimes WHERE Date = 1110101"})
-            for (const Row& row : db.Execute(sql))
-                for (const auto& [column, value] : row)
-                    text += column + "=" + value + ";";
-        return text;
+        return rowsText({"SELECT * FROM tSelectedStates", "SELECT * FROM tSetting", "SELECT * FROM tStates",
+                         "SELECT * FROM tTimes WHERE StateID = 63", "SELECT * FROM tTimes WHERE Date = 1110101"});
     };
     const std::string before = own();
     const std::string shippedDays = rowsAsText(db, 920101, 1101230);
