@@ -80,6 +80,18 @@ TEST(SystemPersianCalendar, DaysOfTheYearRunOnPastAShortEsfandAsIcusDo)
         EXPECT_EQ(calendar.dayOfYear(year, month, day), dayOfYear) << year << "-" << month << "-" << day;
 }
 
+// A new zone counts from the moment the calendar takes it, as a new /etc/localtime counts once its
+// watch tells: a reminder is never computed in one zone and named for another.
+TEST(SystemPersianCalendar, NamesTheZoneItComputesInUntilItFollowsTheSystem)
+{
+    SystemPersianCalendar calendar;
+    ::setenv("TZ", "Asia/Dubai", 1);
+    EXPECT_EQ(calendar.timeZoneId(), "Asia/Tehran");
+    EXPECT_TRUE(calendar.followSystemZone());
+    EXPECT_EQ(calendar.timeZoneId(), "Asia/Dubai");
+    InZone::use("Asia/Tehran");
+}
+
 // Every half hour of the days around each change of the clocks, read both ways.
 TEST(SystemPersianCalendar, MomentsAroundEachChangeOfTheClocksAreIcus)
 {
