@@ -67,6 +67,12 @@ void ScreenFixture::choose(std::initializer_list<int> stateIds)
         QVERIFY(db->ExecuteNonQuery(formatSql(sql::insertChosenCity, {id, ordering++})));
 }
 
+void ScreenFixture::refuse(const std::string& trigger, const std::string& event)
+{
+    QVERIFY(db->ExecuteNonQuery("CREATE TRIGGER " + trigger + " BEFORE " + event
+                                + " BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
+}
+
 std::string ScreenFixture::query(const std::string& sql)
 {
     return db->ExecuteScaler(sql).value_or("<none>");

@@ -21,6 +21,7 @@
 #include <QStringList>
 #include <QWidget>
 
+#include <algorithm>
 #include <initializer_list>
 #include <memory>
 #include <optional>
@@ -46,13 +47,11 @@ public:
 
     // Chooses the places in this order (Ordering 0, 1, ...).
     void choose(std::initializer_list<int> stateIds);
-    // The first value the query finds, or "<none>".
+    // The first value the query finds, or "<none>"; "id:ordering" of the chosen cities in order.
     std::string query(const std::string& sql);
-    // "id:ordering" of the chosen cities in order.
     QStringList orderings();
-    // Shows the window, which makes the main screen appear, and makes it the active window.
+    // Shows the window with the main screen, active; the options opened by its button.
     MainViewController& show();
-    // Clicks the main screen's options button.
     CustomUITabBarController& openOptions();
     void clickTab(int index);
     void click(const QString& objectName);
@@ -60,18 +59,19 @@ public:
     static QStringList texts(const QListWidget* list);
     // One key press per letter, as a Persian keyboard sends them (QTest types Latin letters only).
     static void type(QWidget* field, const QString& text);
-    // The top of the cities' tab, and that tab's navigation.
+    // The top of the cities' tab, and that tab's navigation; the search's results.
     QWidget* citiesTop() const;
     NavigationStack* citiesNavigation() const;
+    QListWidget* results() const { return find<QListWidget>(QStringLiteral("tblResult")); }
+    // A write the database refuses: a trigger of that name before the event ("DELETE ON tStates").
+    void refuse(const std::string& trigger, const std::string& event);
 
     // The widget of that name on show: screens closed may still wait to be deleted.
     template <typename T = QWidget> T* find(const QString& objectName = {}) const
     {
         const QList<T*> all = window_->findChildren<T*>(objectName);
-        for (T* widget : all)
-            if (widget->isVisible())
-                return widget;
-        return all.value(0);
+        const auto shown = std::find_if(all.begin(), all.end(), [](T* widget) { return widget->isVisible(); });
+        return shown != all.end() ? *shown : all.value(0);
     }
     QWidget* top() const;
     // The main screen's pages from left to right, each the texts of its labels in their order.

@@ -48,13 +48,10 @@ struct Editor : ScreenFixture {
     void pickProvince(const QString& typed)
     {
         click(QStringLiteral("provinceRow"));
-        auto* search = qobject_cast<SearchController*>(citiesTop());
-        QVERIFY(search);
-        QVERIFY(citiesNavigation()->isNavigationBarHidden());
-        type(search->findChild<QLineEdit*>(), typed);
-        auto* results = search->findChild<QListWidget*>(QStringLiteral("tblResult"));
-        QCOMPARE(results->count(), 1);
-        QTest::mouseClick(results->viewport(), Qt::LeftButton, {}, results->visualItemRect(results->item(0)).center());
+        QVERIFY(qobject_cast<SearchController*>(citiesTop()) && citiesNavigation()->isNavigationBarHidden());
+        type(find<QLineEdit>(QStringLiteral("searchBar")), typed);
+        QCOMPARE(results()->count(), 1);
+        clickRow(results(), 0);
         QCOMPARE(citiesTop(), editor);
     }
 
@@ -85,9 +82,8 @@ private slots:
         f.editor->slider(4)->setValue(-150);
         QAccessibleValueInterface* value =
             QAccessible::queryAccessibleInterface(f.editor->slider(4))->valueInterface();
-        QCOMPARE(value->currentValue().toInt(), -2);
-        QCOMPARE(value->minimumValue().toInt(), -10);
-        QCOMPARE(value->maximumValue().toInt(), 10);
+        QCOMPARE((QList<int>{value->currentValue().toInt(), value->minimumValue().toInt(), value->maximumValue().toInt()}),
+                 (QList<int>{-2, -10, 10}));
         value->setCurrentValue(7);
         QCOMPARE(value->currentValue().toInt(), 7);
         value->setCurrentValue(-2);
@@ -133,8 +129,7 @@ private slots:
         f.open();
         const QStringList orderings = f.orderings();
         const std::string places = f.query("SELECT COUNT(*) FROM tStates");
-        QVERIFY(f.db->ExecuteNonQuery(
-            "CREATE TRIGGER full BEFORE INSERT ON tTimes BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
+        f.refuse("full", "INSERT ON tTimes");
         f.name->setFocus();
         f.type(f.name, QStringLiteral("بم"));
         f.pickProvince(QStringLiteral("کرم"));
@@ -147,9 +142,7 @@ private slots:
         f.click(QStringLiteral("btnSave"));
         QCOMPARE(f.citiesTop(), f.editor);
         auto* line = f.editor->findChild<QLabel*>(QStringLiteral("failureLine"));
-        QVERIFY(line->isVisible());
-        QVERIFY(!line->text().isEmpty());
-        QVERIFY(!line->text().contains(QLatin1Char('\n')));
+        QVERIFY(line->isVisible() && !line->text().isEmpty() && !line->text().contains(QLatin1Char('\n')));
         QCOMPARE(f.query("SELECT COUNT(*) FROM tStates"), places);
         f.saveScreenshot(QStringLiteral("new-city-refused.png"));
 

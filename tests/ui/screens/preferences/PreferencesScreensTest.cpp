@@ -88,8 +88,7 @@ void answerNextQuestion(const QString& button, QString* asked)
 void saveRefusedFirst(Preferences& f, QWidget* screen, QPushButton* save, const std::string& column)
 {
     const std::string before = f.setting(column);
-    QVERIFY(f.db->ExecuteNonQuery(
-        "CREATE TRIGGER refuse BEFORE UPDATE ON tSetting BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
+    f.refuse("refuse", "UPDATE ON tSetting");
     click(save);
     auto* line = screen->findChild<QLabel*>(QStringLiteral("writeFailureLine"));
     QVERIFY2(line && line->isVisible() && line->text().startsWith(QStringLiteral("ذخیره نشد")), column.c_str());
@@ -123,7 +122,6 @@ private slots:
         QVERIFY(!sliders[2]->isVisible());
 
         click(switches[1]);
-        QVERIFY(screen->saveButton()->isEnabled());
         click(switches[5]);
         QVERIFY(sliders[2]->isVisible());
         QTest::keyClick(sliders[2], Qt::Key_End);
@@ -134,7 +132,6 @@ private slots:
         saveRefusedFirst(f, screen, screen->saveButton(), "Item5");
         QCOMPARE(f.setting("Item0 || ',' || Item1 || ',' || Item2 || ',' || Item3 || ',' || Item4 || ',' || Item5"),
                  "1,0,1,5,0,60");
-        QVERIFY(switches[5]->isChecked());
         click(switches[5]);
         QVERIFY(!sliders[2]->isVisible());
     }
@@ -148,7 +145,6 @@ private slots:
         auto* screen = f.showTab<SoundsViewController>(2);
         auto* list = screen->findChild<QListWidget*>(QStringLiteral("tbl"));
         QAccessibleInterface* rows = QAccessible::queryAccessibleInterface(list);
-        QCOMPARE(rows->child(7)->text(QAccessible::Name), QStringLiteral("اذان مدینه"));
         QVERIFY(rows->child(0)->state().checked);
 
         f.clickRow(list, 7);
@@ -164,12 +160,10 @@ private slots:
 
         // An own recording is checked, copied and played from then on.
         f.clickRow(list, 9);
-        QVERIFY2(!screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile"))->isEnabled(),
-                 "the random row has no recording of its own");
+        QVERIFY2(!screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile"))->isEnabled(), "the random row");
         f.clickRow(list, 3);
         const QString label = list->item(3)->text();
         const auto own = f.paths.documentsFolder() / "sounds" / "3.wav";
-
         const auto text = f.paths.documentsFolder() / "notes.wav";
         std::ofstream(text) << "no sound in here";
         pickFile(screen, text);
@@ -179,7 +173,6 @@ private slots:
 
         f.audio.calls.clear();
         pickFile(screen, wav(11));
-        QTRY_VERIFY_WITH_TIMEOUT(std::filesystem::exists(own), mediaTimeout);
         QTRY_VERIFY_WITH_TIMEOUT(!f.audio.calls.empty() && f.audio.calls.back() == "play", mediaTimeout);
         QCOMPARE(std::filesystem::file_size(own), std::filesystem::file_size(wav(11)));
         QVERIFY(std::find(f.audio.calls.begin(), f.audio.calls.end(), "open " + own.string()) != f.audio.calls.end());
@@ -194,7 +187,6 @@ private slots:
         QVERIFY(QString::fromStdString(f.alerts.messages[1]).contains(QStringLiteral("۵۰ مگابایت")));
         QCOMPARE(std::filesystem::file_size(own), std::filesystem::file_size(wav(11)));
 
-        // Back to the program's recording.
         auto* shipped = screen->findChild<QPushButton*>(QStringLiteral("shippedButton"));
         click(shipped);
         QVERIFY(!std::filesystem::exists(own));
@@ -203,8 +195,7 @@ private slots:
 
         f.audio.calls.clear();
         rows->child(7)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
-        QVERIFY(rows->child(7)->state().checked && rows->child(7)->state().selected);
-        QVERIFY(!rows->child(8)->state().checked);
+        QVERIFY(rows->child(7)->state().checked && !rows->child(8)->state().checked);
         QCOMPARE(f.audio.calls.back(), "play");
         QString asked;
         answerNextQuestion(QStringLiteral("دور انداختن"), &asked);
@@ -214,40 +205,32 @@ private slots:
         QCOMPARE(f.setting("Item6"), "8");
     }
 
-    void anUnsavedChangeIsAskedForOnLeaving_data()
-    {
-        QTest::addColumn<QString>("answer");
-        QTest::addColumn<QString>("storedDawn");
-        QTest::addColumn<int>("tabAfter");
-        QTest::addColumn<bool>("switchAfter");
-        QTest::newRow("save") << QStringLiteral("ذخیره") << "1" << 2 << true;
-        QTest::newRow("discard") << QStringLiteral("دور انداختن") << "0" << 2 << false;
-        QTest::newRow("cancel") << QStringLiteral("انصراف") << "0" << 1 << true;
-    }
-
+    // Leaving a tab with an unsaved change asks; once answered, nothing is asked again.
     void anUnsavedChangeIsAskedForOnLeaving()
     {
-        QFETCH(QString, answer);
-        QFETCH(QString, storedDawn);
-        QFETCH(int, tabAfter);
-        QFETCH(bool, switchAfter);
-        Preferences f("Item0 = 0");
-        auto* settings = f.showTab<SettingController>(1);
-        click(settings->findChild<ToggleSwitch*>());
-        QString asked;
-        answerNextQuestion(answer, &asked);
-        f.clickTab(2);
-        QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
-        QCOMPARE(f.find<CustomUITabBarController>()->currentIndex(), tabAfter);
-        QCOMPARE(QString::fromStdString(f.setting("Item0")), storedDawn);
-        QCOMPARE(settings->findChild<ToggleSwitch*>()->isChecked(), switchAfter);
-        QCOMPARE(settings->saveButton()->isEnabled(), tabAfter == 1);
-
-        // Once answered, nothing is asked again on the way back and forth.
-        asked.clear();
-        answerNextQuestion(QStringLiteral("انصراف"), &asked);
-        f.clickTab(0);
-        QCOMPARE(asked.isEmpty(), tabAfter == 2);
+        const struct {
+            const char* answer;
+            std::string storedDawn;
+            int tabAfter;
+            bool switchAfter;
+        } answers[] = {{"ذخیره", "1", 2, true}, {"دور انداختن", "0", 2, false}, {"انصراف", "0", 1, true}};
+        for (const auto& a : answers) {
+            Preferences f("Item0 = 0");
+            auto* settings = f.showTab<SettingController>(1);
+            click(settings->findChild<ToggleSwitch*>());
+            QString asked;
+            answerNextQuestion(QString::fromUtf8(a.answer), &asked);
+            f.clickTab(2);
+            QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
+            QCOMPARE(f.find<CustomUITabBarController>()->currentIndex(), a.tabAfter);
+            QCOMPARE(f.setting("Item0"), a.storedDawn);
+            QCOMPARE(settings->findChild<ToggleSwitch*>()->isChecked(), a.switchAfter);
+            QCOMPARE(settings->saveButton()->isEnabled(), a.tabAfter == 1);
+            asked.clear();
+            answerNextQuestion(QStringLiteral("انصراف"), &asked);
+            f.clickTab(0);
+            QCOMPARE(asked.isEmpty(), a.tabAfter == 2);
+        }
     }
 
     // The switch shows the time picker, whose digits are Persian; Escape closes the options as
@@ -256,7 +239,6 @@ private slots:
     {
         Preferences f;
         auto* screen = f.showTab<HistoryViewController>(3);
-        QVERIFY(screen);
         auto* picker = screen->findChild<QTimeEdit*>(QStringLiteral("picker"));
         QVERIFY(!picker->isVisible() && !picker->isEnabled());
         click(screen->switchOn());
