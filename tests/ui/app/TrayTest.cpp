@@ -19,19 +19,8 @@
 #include <QtTest>
 
 namespace kavenda {
-namespace {
 
 using test::tehran;
-
-QAction* actionNamed(QMenu* menu, const QString& text)
-{
-    for (QAction* action : menu->actions())
-        if (action->text() == text)
-            return action;
-    return nullptr;
-}
-
-}  // namespace
 
 // The tray's tooltip and menu, and the hand-over of a second start, on the offscreen platform.
 class TrayTest : public QObject {
@@ -63,16 +52,14 @@ private slots:
         status.refresh();
         QCOMPARE(tray.toolTip(), QStringLiteral("اذان مغرب به افق تهران، ١٧:١٣ (٢ ساعت و ١٥ دقیقه دیگر)"));
 
-        QAction* stop = actionNamed(&menu, QStringLiteral("توقف اذان"));
-        QVERIFY(stop);
-        QCOMPARE(menu.actions().first(), stop);
+        QAction* stop = menu.actions().first();
+        QCOMPARE(stop->text(), QStringLiteral("توقف اذان"));
         QVERIFY(!stop->isVisible());
         sound.play(evening);
         emit menu.aboutToShow();
         QVERIFY(stop->isVisible());
         stop->trigger();
-        QVERIFY(!audio.playing);
-        QVERIFY(!stop->isVisible());
+        QVERIFY(!audio.playing && !stop->isVisible());
     }
 
     void aSecondStartOnTheSameFolderHandsOverItsWish()
@@ -88,7 +75,6 @@ private slots:
         QCOMPARE(shows.count(), 0);
         QVERIFY(SingleInstance(folder.path()).handOver(false));
         QVERIFY(shows.wait(2000));
-        QCOMPARE(shows.count(), 1);
     }
 };
 

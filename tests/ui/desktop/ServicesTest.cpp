@@ -54,8 +54,6 @@ private slots:
         clock.set(start + std::chrono::seconds{120});
         service.deliverDue();
         QCOMPARE(delivered, (std::vector<std::string>{"noon", "noon, second sound", "sunset"}));
-        QCOMPARE(service.pending().size(), std::size_t{1});
-        QCOMPARE(service.pending().front().alertBody, std::string("evening"));
         QCOMPARE(service.nextFireDate(), std::optional<Instant>(start + std::chrono::seconds{600}));
     }
 
@@ -67,8 +65,7 @@ private slots:
         service.setDelivery([&delivered](const NotificationRecord& r) { delivered.push_back(r.alertBody); });
         service.schedule(record(std::chrono::seconds{1}, "in a second"));
         service.schedule(record(std::chrono::seconds{0}, "now"));
-        QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), std::size_t{1}, 3000);
-        QCOMPARE(delivered.front(), std::string("now"));
+        QTRY_COMPARE_WITH_TIMEOUT(delivered, std::vector<std::string>{"now"}, 3000);
         // The clock reaches the second record's moment; the timer set for it finds it due.
         clock.set(start + std::chrono::seconds{1});
         QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), std::size_t{2}, 3000);
@@ -133,16 +130,12 @@ private slots:
 
         const std::string heard = why.isEmpty() ? own.toStdString() : KAVENDA_RESOURCE_DIR "/3.wav";
         QCOMPARE(std::count(audio.calls.begin(), audio.calls.end(), "open " + heard), 2);
-        const auto told = std::count_if(log.lines.begin(), log.lines.end(), [&](const std::string& line) {
-            return line.find(own.toStdString()) != std::string::npos;
-        });
-        QCOMPARE(told, why.isEmpty() ? 0 : 1);
-        if (!why.isEmpty()) {
-            const auto line = std::find_if(log.lines.begin(), log.lines.end(), [&](const std::string& text) {
-                return text.find(own.toStdString()) != std::string::npos;
-            });
-            QVERIFY2(QString::fromStdString(*line).contains(why), line->c_str());
-        }
+        QStringList told;
+        for (const std::string& line : log.lines)
+            if (line.find(own.toStdString()) != std::string::npos)
+                told << QString::fromStdString(line);
+        QCOMPARE(told.size(), why.isEmpty() ? 0 : 1);
+        QVERIFY2(why.isEmpty() || told[0].contains(why), qPrintable(told.join(QLatin1Char('\n'))));
     }
 };
 
