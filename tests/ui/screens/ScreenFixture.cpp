@@ -30,13 +30,11 @@ namespace {
 std::filesystem::path resourcesFor(const TempFolder& temp, ScreenFixture::Data data)
 {
     const auto folder = temp.path() / "resources";
-    if (data == ScreenFixture::Data::mainScreen)
-        buildFixtureDatabase(folder, {"fixture-data.sql", "main-screen.sql"});
-    else if (data == ScreenFixture::Data::cities)
-        buildFixtureDatabase(folder, {"fixture-data.sql", "offset-city.sql", "cities.sql"});
-    else
+    if (data == ScreenFixture::Data::generated)
         return KAVENDA_RESOURCE_DIR;
-    return folder;
+    if (data == ScreenFixture::Data::mainScreen)
+        return buildFixtureDatabase(folder, {"fixture-data.sql", "main-screen.sql"}).parent_path();
+    return buildFixtureDatabase(folder, {"fixture-data.sql", "offset-city.sql", "cities.sql"}).parent_path();
 }
 
 }  // namespace
@@ -124,11 +122,10 @@ void ScreenFixture::clickTab(int index)
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(index).center());
 }
 
-void ScreenFixture::click(const QString& objectName)
+void ScreenFixture::click(QWidget* widget)
 {
-    auto* button = find<QAbstractButton>(objectName);
-    QVERIFY2(button && button->isVisible(), qPrintable(objectName));
-    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(widget && widget->isVisible());
+    QTest::mouseClick(widget, Qt::LeftButton);
 }
 
 void ScreenFixture::clickRow(QListWidget* list, int row)
@@ -151,11 +148,6 @@ void ScreenFixture::type(QWidget* field, const QString& text)
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
         QCoreApplication::sendEvent(field, &press);
     }
-}
-
-NavigationStack* ScreenFixture::citiesNavigation() const
-{
-    return find<NavigationStack>(QStringLiteral("citiesNavigation"));
 }
 
 QWidget* ScreenFixture::citiesTop() const

