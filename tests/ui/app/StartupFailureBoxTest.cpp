@@ -5,10 +5,8 @@
 #include "data/DatabaseCheck.h"
 #include "tests/support/RecordingLog.h"
 
-#include <QAbstractButton>
-#include <QMessageBox>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace kavenda {
 

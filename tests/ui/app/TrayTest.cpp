@@ -13,10 +13,8 @@
 #include "tests/support/TehranTime.h"
 #include "tests/support/TempFolder.h"
 
-#include <QMenu>
-#include <QSignalSpy>
-#include <QSystemTrayIcon>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace kavenda {
 

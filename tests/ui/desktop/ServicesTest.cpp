@@ -9,10 +9,8 @@
 #include "tests/support/RecordingAudioPlayer.h"
 #include "tests/support/RecordingLog.h"
 
-#include <QDir>
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <algorithm>
 

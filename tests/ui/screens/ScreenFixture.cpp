@@ -6,22 +6,14 @@
 #include "app/PersianFont.h"
 #include "data/Statements.h"
 #include "desktop/AudioModule.h"
-#include "screens/cities/CustomUITabBarController.h"
-#include "screens/main/MainViewController.h"
 #include "tests/support/FixtureDatabase.h"
 #include "text/Format.h"
 #include "widgets/Animations.h"
 #include "widgets/EnterPressesButtons.h"
-#include "widgets/NavigationStack.h"
 #include "widgets/Pager.h"
-#include "widgets/PresentationStack.h"
 
-#include <QAbstractButton>
-#include <QDir>
-#include <QLabel>
-#include <QTabBar>
-#include <QVBoxLayout>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace kavenda::test {
 

@@ -7,6 +7,8 @@
 #include "desktop/FixedScreen.h"
 #include "desktop/SystemPersianCalendar.h"
 #include "reminders/MyNotification.h"
+#include "screens/cities/CustomUITabBarController.h"
+#include "screens/main/MainViewController.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
 #include "tests/support/RecordingAlerts.h"
@@ -16,12 +18,12 @@
 #include "tests/support/RecordingUrlOpener.h"
 #include "tests/support/ScriptedRandom.h"
 #include "tests/support/TempFolder.h"
+#include "tests/support/TehranTime.h"
 #include "widgets/NavigationStack.h"
+#include "widgets/PresentationStack.h"
 
-#include <QAbstractButton>
-#include <QListWidget>
-#include <QStringList>
-#include <QWidget>
+#include <QtTest>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <initializer_list>
@@ -29,10 +31,6 @@
 #include <optional>
 
 namespace kavenda {
-
-class CustomUITabBarController;
-class MainViewController;
-class PresentationStack;
 
 namespace test {
 

@@ -6,10 +6,8 @@
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
 
-#include <QLabel>
-#include <QPushButton>
-#include <QSignalSpy>
-#include <QTest>
+#include <QtTest>
+#include <QtWidgets>
 
 namespace kavenda {
 namespace {

@@ -7,18 +7,11 @@
 #include "desktop/SystemClock.h"
 #include "screens/calendar/CalendarViewController.h"
 #include "screens/calendar/DayButton.h"
-#include "screens/main/MainViewController.h"
-#include "tests/support/TehranTime.h"
 #include "tests/ui/screens/ScreenFixture.h"
 #include "widgets/Animations.h"
-#include "widgets/PresentationStack.h"
 
-#include <QAbstractButton>
-#include <QAccessible>
-#include <QImage>
-#include <QLabel>
-#include <QListWidget>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <cstdlib>
 

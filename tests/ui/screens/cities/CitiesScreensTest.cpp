@@ -1,23 +1,14 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "screens/cities/CustomUITabBarController.h"
 #include "screens/cities/EditableCityList.h"
 #include "screens/cities/NewCityController.h"
 #include "screens/cities/SearchController.h"
 #include "screens/cities/SelectionController.h"
-#include "screens/main/MainViewController.h"
-#include "tests/support/TehranTime.h"
 #include "tests/ui/screens/ScreenFixture.h"
-#include "widgets/NavigationStack.h"
-#include "widgets/PresentationStack.h"
 
-#include <QAccessible>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPushButton>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace kavenda {
 namespace {

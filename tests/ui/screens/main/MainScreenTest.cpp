@@ -3,23 +3,13 @@
 
 #include "calendar/DateTimePersian.h"
 #include "desktop/SystemClock.h"
-#include "screens/cities/CustomUITabBarController.h"
-#include "screens/main/MainViewController.h"
-#include "tests/support/TehranTime.h"
 #include "tests/ui/screens/ScreenFixture.h"
 #include "widgets/FocusRingStyle.h"
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
-#include "widgets/PresentationStack.h"
 
-#include <QAbstractButton>
-#include <QAccessible>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QPointer>
-#include <QScrollBar>
-#include <QSlider>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <algorithm>
 

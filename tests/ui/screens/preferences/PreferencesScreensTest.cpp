@@ -1,26 +1,15 @@
 // SPDX-FileCopyrightText: 2026 Kavenda team
 // SPDX-License-Identifier: GPL-3.0-or-later
 
-#include "screens/cities/CustomUITabBarController.h"
-#include "screens/main/MainViewController.h"
 #include "screens/preferences/HistoryViewController.h"
 #include "screens/preferences/SettingController.h"
 #include "screens/preferences/SoundChoice.h"
 #include "screens/preferences/SoundsViewController.h"
-#include "tests/support/TehranTime.h"
 #include "tests/ui/screens/ScreenFixture.h"
-#include "widgets/PresentationStack.h"
 #include "widgets/ToggleSwitch.h"
 
-#include <QAccessible>
-#include <QFileDialog>
-#include <QLabel>
-#include <QListWidget>
-#include <QMessageBox>
-#include <QSlider>
-#include <QTimeEdit>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 #include <algorithm>
 #include <fstream>
