@@ -57,7 +57,6 @@ private slots:
         QVERIFY(!notifications.records.empty());  // read from the copy
         QVERIFY(delegate->window()->isVisible());
         QCOMPARE(delegate->rootViewController()->pageCount(), 1);
-
         // Becoming active follows the launch once, whatever the focus does.
         QSignalSpy refreshed(delegate->rootViewController(), &MainViewController::refreshed);
         QCOMPARE(refreshed.count(), 0);
@@ -77,7 +76,6 @@ private slots:
         main.findChild<Pager*>(QStringLiteral("scrollView"))->setContentOffset(0, false);
         QSignalSpy refreshed(&main, &MainViewController::refreshed);
         const int updates = notifications.cancelCalls;
-
         for (QEvent::Type type :
              {QEvent::WindowDeactivate, QEvent::WindowActivate, QEvent::WindowDeactivate, QEvent::WindowActivate})
             windowManagerSends(type);
@@ -93,7 +91,6 @@ private slots:
         QSignalSpy refreshed(delegate->rootViewController(), &MainViewController::refreshed);
         const int updates = notifications.cancelCalls;
         const auto logged = log.lines.size();
-
         delegate->window()->hide();
         QTest::qWait(50);
         QCOMPARE(refreshed.count(), 0);
@@ -117,7 +114,6 @@ private slots:
         delegate->didReceiveLocalNotification(record);
         QCOMPARE(alerts.messages, std::vector<std::string>{record.alertBody});
         QVERIFY(desktop.empty());
-
         windowManagerSends(QEvent::WindowDeactivate);
         delegate->didReceiveLocalNotification(record);
         delegate->window()->hide();

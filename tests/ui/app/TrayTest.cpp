@@ -38,10 +38,8 @@ private slots:
         FixedPaths paths("/documents", KAVENDA_RESOURCE_DIR);
         test::RecordingLog log;
         ReminderSound sound(audio, paths, log);
-
         TrayStatus status(&tray, sound, notifications, clock, calendar);
         QCOMPARE(tray.toolTip(), QGuiApplication::applicationDisplayName());
-
         notifications.schedule(
             {tehran(2026, 11, 23, 5, 20), "Asia/Tehran", "اذان صبح به افق تهران", "Ok", "3.wav", {}});
         const NotificationRecord evening{
@@ -49,7 +47,6 @@ private slots:
         notifications.schedule(evening);
         status.refresh();
         QCOMPARE(tray.toolTip(), QStringLiteral("اذان مغرب به افق تهران، ١٧:١٣ (٢ ساعت و ١٥ دقیقه دیگر)"));
-
         QAction* stop = menu.actions().first();
         QCOMPARE(stop->text(), QStringLiteral("توقف اذان"));
         QVERIFY(!stop->isVisible());
@@ -67,7 +64,6 @@ private slots:
         QVERIFY(!SingleInstance(folder.path()).handOver(false));
         QVERIFY(running.listen());
         QSignalSpy shows(&running, &SingleInstance::showRequested);
-
         QVERIFY(SingleInstance(folder.path() / ".").handOver(true));
         QTest::qWait(200);
         QCOMPARE(shows.count(), 0);

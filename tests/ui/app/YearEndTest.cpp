@@ -64,7 +64,6 @@ private slots:
         MyDB db("Icons", paths, log);
         QVERIFY(db.ExecuteNonQuery(formatSql(sql::insertChosenCity, {39, 1})));
         QCOMPARE(db.ExecuteScaler("SELECT MAX(Date) FROM tEvents").value_or(""), std::string("1101229"));
-
         // 27 Esfand 1410, late in the evening: the shipped days end in two days.
         FixedClock clock(calendar.instantOf(1410, 12, 27, 22, 0));
         test::RecordingNotificationService notifications;
@@ -74,7 +73,6 @@ private slots:
         QSignalSpy settled(&horizon, &HorizonKeeper::settled);
         connect(&horizon, &HorizonKeeper::yearsAdded, this, [&] { scheduler.update(); });
         const auto today = [&] { return std::stoi(keyOf(clock.now())); };
-
         // A start: the reminders from what is held, the top-up behind them.
         scheduler.update();
         horizon.keepAhead(today());
@@ -85,7 +83,6 @@ private slots:
         QCOMPARE(
             daysOfTheCalls(notifications),
             (std::vector<std::string>{keyOf(1410, 12, 28), keyOf(1410, 12, 29), keyOf(1411, 1, 1), keyOf(1411, 1, 2)}));
-
         // Every midnight over the turn of the year: five whole days of calls from today on.
         Replanning replanning(
             clock, calendar, log, [] {},

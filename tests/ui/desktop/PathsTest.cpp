@@ -37,7 +37,6 @@ private slots:
             std::filesystem::create_directories(root.path() / "share" / "kavenda");
         if (buildTree)
             std::filesystem::create_directories(root.path() / "resources");
-
         const std::filesystem::path found = DesktopPaths::findResources(root.path() / "bin", "../share/kavenda");
         QCOMPARE(QString::fromStdString(found.string()),
                  QString::fromStdString((root.path() / expected.toStdString()).string()));

@@ -44,11 +44,9 @@ private slots:
         service.schedule(record(std::chrono::seconds{60}, "noon, second sound"));
         service.schedule(record(std::chrono::seconds{600}, "evening"));
         QCOMPARE(service.nextFireDate(), std::optional<Instant>(start + std::chrono::seconds{60}));
-
         clock.set(start + std::chrono::seconds{59});
         service.deliverDue();
         QVERIFY(delivered.empty());
-
         clock.set(start + std::chrono::seconds{120});
         service.deliverDue();
         QCOMPARE(delivered, (std::vector<std::string>{"noon", "noon, second sound", "sunset"}));
@@ -68,7 +66,6 @@ private slots:
         clock.set(start + std::chrono::seconds{1});
         QTRY_COMPARE_WITH_TIMEOUT(delivered.size(), std::size_t{2}, 3000);
         QVERIFY(service.pending().empty());
-
         // Cancelling stops what was about to fire, missed calls too.
         service.schedule(record(std::chrono::seconds{1}, "now"));
         service.schedule(record(std::chrono::seconds{-30}, "missed"));
@@ -125,7 +122,6 @@ private slots:
         QVERIFY(sound.play(call) != 0);
         if (dropped)
             QVERIFY(::seteuid(0) == 0 && ::setegid(0) == 0);
-
         const std::string heard = why.isEmpty() ? own.toStdString() : KAVENDA_RESOURCE_DIR "/3.wav";
         QCOMPARE(std::count(audio.calls.begin(), audio.calls.end(), "open " + heard), 2);
         QStringList told;

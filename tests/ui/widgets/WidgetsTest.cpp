@@ -105,7 +105,6 @@ private slots:
         stack.setBarButtons(list, nullptr, done);
         QCOMPARE(stack.title(), QStringLiteral("شهرها"));
         QVERIFY(done->isVisible());
-
         auto* search = new QWidget;
         search->setWindowTitle(QStringLiteral("جستجو"));
         stack.push(search, true);
@@ -113,7 +112,6 @@ private slots:
         QVERIFY(!done->isVisible());
         search->setWindowTitle(QStringLiteral("افزودن"));
         QCOMPARE(stack.title(), QStringLiteral("افزودن"));
-
         stack.pop(true);
         QCOMPARE(stack.title(), QStringLiteral("شهرها"));
         QVERIFY(done->isVisible());

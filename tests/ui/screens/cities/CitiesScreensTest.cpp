@@ -69,7 +69,6 @@ private slots:
         QCOMPARE(tabs->currentIndex(), 4);
         f.clickTab(0);
         QCOMPARE(f.citiesTop(), f.find<SelectionController>());  // the search does not come back
-
         // Enter presses the focused search button; a tap on a result adds it.
         auto* searchButton = f.find<QPushButton>(QStringLiteral("btnSearch"));
         searchButton->setFocus();
@@ -85,7 +84,6 @@ private slots:
         QCOMPARE(f.top(), f.main);
         QCOMPARE(f.rebuilds, 1);
         QCOMPARE(f.pages().size(), 1);
-
         // Typed Arabic letters find the city; Enter in the field adds the only result.
         f.openOptions();
         QTest::qWait(20);
@@ -103,7 +101,6 @@ private slots:
         QCOMPARE(f.citiesTop(), selection);
         QCOMPARE(f.texts(f.find<EditableCityList>()),
                  (QStringList{QStringLiteral("تهران (تهران)"), QStringLiteral("کرمان (کرمان)")}));
-
         f.click(QStringLiteral("btnSearch"));
         f.type(f.find<QLineEdit>(QStringLiteral("searchBar")), QStringLiteral("\u0627\u0646"));
         QListWidget* list = f.results();
@@ -114,7 +111,6 @@ private slots:
         f.click(QStringLiteral("btnSearch"));
         QTest::keyClick(f.find<QLineEdit>(QStringLiteral("searchBar")), Qt::Key_Escape);
         QCOMPARE(f.citiesTop(), selection);
-
         auto* create = f.find<QListWidget>(QStringLiteral("createNewCityTable"));
         QVERIFY(create->focusPolicy() & Qt::TabFocus);
         create->setFocus(Qt::TabFocusReason);
@@ -157,7 +153,6 @@ private slots:
         QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));  // a removal renumbers nothing
         QTest::keyClick(list, Qt::Key_Down, Qt::ControlModifier);  // already the last row
         QCOMPARE(f.orderings(), (QStringList{"32:0", "33:2"}));
-
         f.refuse("refuse", "DELETE ON tSelectedStates");
         f.refuse("refuseMove", "UPDATE ON tSelectedStates");
         QLabel* line = nullptr;

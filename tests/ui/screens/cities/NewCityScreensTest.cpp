@@ -69,7 +69,6 @@ private slots:
         QVERIFY(!f.saveEnabled());
         QTest::keyClick(f.name, Qt::Key_Return);
         QVERIFY2(!f.saveEnabled(), "no province yet");
-
         QTest::keyClick(f.editor->slider(1), Qt::Key_Up);
         f.editor->slider(5)->setValue(550);
         f.editor->slider(4)->setValue(-150);
@@ -80,7 +79,6 @@ private slots:
         value->setCurrentValue(7);
         QCOMPARE(value->currentValue().toInt(), 7);
         value->setCurrentValue(-2);
-
         f.pickProvince(QStringLiteral("تهر"));
         QCOMPARE(f.editor->findChild<QLabel*>(QStringLiteral("provinceValue"))->text(), QStringLiteral("تهران"));
         QCOMPARE(QAccessible::queryAccessibleInterface(f.find<QPushButton>(QStringLiteral("provinceRow")))
@@ -89,14 +87,12 @@ private slots:
         QCOMPARE(f.name->text(), QStringLiteral("\u0643\u0648\u064A"));
         QVERIFY(f.saveEnabled());
         f.saveScreenshot(QStringLiteral("new-city-editor.png"));
-
         f.click(QStringLiteral("btnSave"));
         QCOMPARE(f.citiesTop()->metaObject()->className(), "kavenda::SelectionController");
         QCOMPARE(f.lastListed(), QStringLiteral("کوی (تهران)"));
         QCOMPARE(f.orderings().last(), QStringLiteral("64:4"));
         QCOMPARE(f.query("SELECT T1 || T2 || T3 || T4 || T5 || T6 FROM tTimes WHERE StateID = 64 AND Date = 14000101"),
                  "0100-25");
-
         // The name counts once committed: by leaving the field or by a slider; typing alone does not.
         f.open();
         QTest::keyClick(f.editor->slider(0), Qt::Key_Up);
@@ -109,7 +105,6 @@ private slots:
         QTest::keyClick(f.name, Qt::Key_Tab);
         QVERIFY(!f.name->hasFocus());
         QVERIFY2(f.saveEnabled(), "leaving the field commits the name");
-
         f.name->setFocus();
         f.type(f.name, QStringLiteral(" نو"));
         QTest::keyClick(f.editor->slider(2), Qt::Key_Down);
@@ -117,7 +112,6 @@ private slots:
         f.click(QStringLiteral("btnSave"));
         QCOMPARE(f.lastListed(), QStringLiteral("مهریز نو (یزد)"));
         QCOMPARE(f.query("SELECT T1 || ',' || T3 FROM tTimes WHERE StateID = 65"), "1,-1");
-
         // A refused save keeps the editor open and says so; going back writes nothing.
         f.open();
         const QStringList orderings = f.orderings();
@@ -131,14 +125,12 @@ private slots:
         f.click(QStringLiteral("cancelButton"));
         QCOMPARE(f.citiesTop(), f.editor);
         QCOMPARE(f.editor->findChild<QLabel*>(QStringLiteral("provinceValue"))->text(), QStringLiteral("کرمان"));
-
         f.click(QStringLiteral("btnSave"));
         QCOMPARE(f.citiesTop(), f.editor);
         auto* line = f.editor->findChild<QLabel*>(QStringLiteral("failureLine"));
         QVERIFY(line->isVisible() && !line->text().isEmpty() && !line->text().contains(QLatin1Char('\n')));
         QCOMPARE(f.query("SELECT COUNT(*) FROM tStates"), places);
         f.saveScreenshot(QStringLiteral("new-city-refused.png"));
-
         QVERIFY(f.db->ExecuteNonQuery("DROP TRIGGER full"));
         f.click(QStringLiteral("btnBack"));
         QCOMPARE(f.citiesTop()->metaObject()->className(), "kavenda::SelectionController");

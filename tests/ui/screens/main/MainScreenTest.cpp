@@ -83,7 +83,6 @@ private slots:
         QCOMPARE(pager->contentOffset(), 640.0);
         QCOMPARE(indicator->currentPage(), 2);
         f.saveScreenshot(QStringLiteral("main-1392-04-10.png"));
-
         // On a dot, its page; beside the dots, one page that way: through the window, as the
         // desktop delivers a click, to whichever widget takes it there.
         const int middle = indicator->height() / 2;
@@ -97,7 +96,6 @@ private slots:
             QCOMPARE(indicator->currentPage(), page);
             QTRY_COMPARE(pager->contentOffset(), 320.0 * page);
         }
-
         const QList<QWidget*> widgets = pager->pages();
         const QList<QPointer<QWidget>> before(widgets.begin(), widgets.end());
         main.refresh();
@@ -154,7 +152,6 @@ private slots:
         f.click(QStringLiteral("calendarButton"));
         walk(QStringLiteral("calendar"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-
         CustomUITabBarController& tabs = f.openOptions();
         for (int tab = tabs.count() - 1; tab >= 0; --tab) {
             f.clickTab(tab);

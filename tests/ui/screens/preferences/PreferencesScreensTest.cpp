@@ -102,7 +102,6 @@ private slots:
         QVERIFY(sliders[0]->isVisible());
         QCOMPARE(sliders[0]->value(), 2);
         QVERIFY(!sliders[2]->isVisible());
-
         f.click(switches[1]);
         f.click(switches[5]);
         QVERIFY(sliders[2]->isVisible());
@@ -110,7 +109,6 @@ private slots:
         QCOMPARE(sliders[2]->accessibleName(), QStringLiteral("وقت افطار: ٦٠ دقیقه قبل"));
         QTest::keyClick(sliders[0], Qt::Key_Home);
         f.saveScreenshot(QStringLiteral("preferences-settings.png"));
-
         saveRefusedFirst(f, screen, "Item5");
         QCOMPARE(f.setting("Item0 || ',' || Item1 || ',' || Item2 || ',' || Item3 || ',' || Item4 || ',' || Item5"),
                  "1,0,1,5,0,60");
@@ -128,7 +126,6 @@ private slots:
         auto* list = screen->findChild<QListWidget*>(QStringLiteral("tbl"));
         QAccessibleInterface* rows = QAccessible::queryAccessibleInterface(list);
         QVERIFY(rows->child(0)->state().checked);
-
         f.clickRow(list, 7);
         QCOMPARE(f.audio.calls, (Calls{"open " + wav(7), "play"}));
         f.clickRow(list, 9);
@@ -138,7 +135,6 @@ private slots:
         f.saveScreenshot(QStringLiteral("preferences-sounds.png"));
         saveRefusedFirst(f, screen, "Item6");
         QCOMPARE(f.setting("Item6"), "8");
-
         // An own recording is checked, copied and played from then on.
         f.clickRow(list, 9);
         QVERIFY2(!screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile"))->isEnabled(), "the random row");
@@ -151,14 +147,12 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(f.alerts.messages.size(), std::size_t{1}, mediaTimeout);
         QVERIFY(QString::fromStdString(f.alerts.messages[0]).contains(QStringLiteral("notes.wav")));
         QVERIFY(!std::filesystem::exists(own));
-
         f.audio.calls.clear();
         pickFile(screen, wav(11));
         QTRY_VERIFY_WITH_TIMEOUT(!f.audio.calls.empty() && f.audio.calls.back() == "play", mediaTimeout);
         QCOMPARE(std::filesystem::file_size(own), std::filesystem::file_size(wav(11)));
         QVERIFY(std::find(f.audio.calls.begin(), f.audio.calls.end(), "open " + own.string()) != f.audio.calls.end());
         QCOMPARE(list->item(3)->text(), label + QStringLiteral(" (صدای شما)"));
-
         // A file too large for a call is refused before anything is read of it.
         const auto large = f.paths.documentsFolder() / "large.wav";
         std::filesystem::copy_file(wav(11), large);
@@ -167,13 +161,11 @@ private slots:
         QTRY_COMPARE_WITH_TIMEOUT(f.alerts.messages.size(), std::size_t{2}, mediaTimeout);
         QVERIFY(QString::fromStdString(f.alerts.messages[1]).contains(QStringLiteral("۵۰ مگابایت")));
         QCOMPARE(std::filesystem::file_size(own), std::filesystem::file_size(wav(11)));
-
         auto* shipped = screen->findChild<QPushButton*>(QStringLiteral("shippedButton"));
         f.click(shipped);
         QVERIFY(!std::filesystem::exists(own));
         QCOMPARE(list->item(3)->text(), label);
         QVERIFY(!shipped->isEnabled());
-
         f.audio.calls.clear();
         rows->child(7)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QVERIFY(rows->child(7)->state().checked && !rows->child(8)->state().checked);
@@ -237,7 +229,6 @@ private slots:
         QVERIFY2(!screen->saveButton()->isEnabled(), "back at the stored time");
         f.click(screen->switchOn());
         QVERIFY(!picker->isVisible());
-
         QString asked;
         answerNextQuestion(QStringLiteral("انصراف"), &asked);
         QTest::keyClick(screen->switchOn(), Qt::Key_Escape);
