@@ -169,7 +169,6 @@ private slots:
         QCOMPARE(QApplication::focusWidget(), c.button("nextButton"));
         c.press(Qt::Key_Return);
         QCOMPARE(c.month(), QStringLiteral("مرداد ١٣٩٢"));
-        // Escape closes without a pick.
         c.tapDay(25);
         c.press(Qt::Key_Escape);
         QCOMPARE(c.pages().first()[2], QStringLiteral("١٠ تیر"));
@@ -204,7 +203,6 @@ private slots:
         QCOMPARE(page->size(), view->size());
         QCOMPARE(c.checkedDays(), QList<int>{});
         QCOMPARE(c.occasions(), QStringList{QStringLiteral("بدون رویداد")});
-        // After the slide the next step is taken again.
         c.click(QStringLiteral("nextButton"));
         QCOMPARE(c.month(), QStringLiteral("شهریور ١٣٩٢"));
     }
@@ -222,7 +220,6 @@ private slots:
             QCOMPARE(c.month(), QStringLiteral("اسفند ١٤١٠"));
             QCOMPARE(c.checkedDays(), picked);
             c.saveScreenshot(QStringLiteral("calendar-1410-12-last-month.png"));
-            // One step back and the arrow is live again.
             c.press(Qt::Key_PageUp);
             QVERIFY(c.button("nextButton")->isEnabled());
         }

@@ -69,7 +69,6 @@ private slots:
         QCOMPARE(tabs->currentIndex(), 4);
         f.clickTab(0);
         QCOMPARE(f.citiesTop(), f.find<SelectionController>());  // the search does not come back
-        // Enter presses the focused search button; a tap on a result adds it.
         auto* searchButton = f.find<QPushButton>(QStringLiteral("btnSearch"));
         searchButton->setFocus();
         QTest::keyClick(searchButton, Qt::Key_Return);
@@ -84,7 +83,6 @@ private slots:
         QCOMPARE(f.top(), f.main);
         QCOMPARE(f.rebuilds, 1);
         QCOMPARE(f.pages().size(), 1);
-        // Typed Arabic letters find the city; Enter in the field adds the only result.
         f.openOptions();
         QTest::qWait(20);
         auto* selection = f.find<SelectionController>();

@@ -93,7 +93,6 @@ private slots:
         QCOMPARE(f.orderings().last(), QStringLiteral("64:4"));
         QCOMPARE(f.query("SELECT T1 || T2 || T3 || T4 || T5 || T6 FROM tTimes WHERE StateID = 64 AND Date = 14000101"),
                  "0100-25");
-        // The name counts once committed: by leaving the field or by a slider; typing alone does not.
         f.open();
         QTest::keyClick(f.editor->slider(0), Qt::Key_Up);
         QVERIFY2(!f.saveEnabled(), "a slider before any name");
@@ -112,7 +111,6 @@ private slots:
         f.click(QStringLiteral("btnSave"));
         QCOMPARE(f.lastListed(), QStringLiteral("مهریز نو (یزد)"));
         QCOMPARE(f.query("SELECT T1 || ',' || T3 FROM tTimes WHERE StateID = 65"), "1,-1");
-        // A refused save keeps the editor open and says so; going back writes nothing.
         f.open();
         const QStringList orderings = f.orderings();
         const std::string places = f.query("SELECT COUNT(*) FROM tStates");

@@ -135,7 +135,6 @@ private slots:
         f.saveScreenshot(QStringLiteral("preferences-sounds.png"));
         saveRefusedFirst(f, screen, "Item6");
         QCOMPARE(f.setting("Item6"), "8");
-        // An own recording is checked, copied and played from then on.
         f.clickRow(list, 9);
         QVERIFY2(!screen->findChild<QPushButton*>(QStringLiteral("btnOwnFile"))->isEnabled(), "the random row");
         f.clickRow(list, 3);
