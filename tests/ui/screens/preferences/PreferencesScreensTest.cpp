@@ -93,29 +93,6 @@ class PreferencesScreensTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void settingsSwitchesAndSlidersAreSavedAsShown()
-    {
-        Preferences f("Item3 = 15");
-        auto* screen = f.showTab<SettingController>(1);
-        const auto switches = screen->findChildren<ToggleSwitch*>();
-        const auto sliders = screen->findChildren<QSlider*>();
-        QVERIFY(sliders[0]->isVisible());
-        QCOMPARE(sliders[0]->value(), 2);
-        QVERIFY(!sliders[2]->isVisible());
-        f.click(switches[1]);
-        f.click(switches[5]);
-        QVERIFY(sliders[2]->isVisible());
-        QTest::keyClick(sliders[2], Qt::Key_End);
-        QCOMPARE(sliders[2]->accessibleName(), QStringLiteral("وقت افطار: ٦٠ دقیقه قبل"));
-        QTest::keyClick(sliders[0], Qt::Key_Home);
-        f.saveScreenshot(QStringLiteral("preferences-settings.png"));
-        saveRefusedFirst(f, screen, "Item5");
-        QCOMPARE(f.setting("Item0 || ',' || Item1 || ',' || Item2 || ',' || Item3 || ',' || Item4 || ',' || Item5"),
-                 "1,0,1,5,0,60");
-        f.click(switches[5]);
-        QVERIFY(!sliders[2]->isVisible());
-    }
-
     // A tap, Enter or a screen reader's press on a row previews and chooses it; an own recording
     // is checked, copied and played from then on; leaving the tab stops the preview, and a
     // dropped choice gives way to the stored one.
@@ -177,13 +154,31 @@ private slots:
         QCOMPARE(f.setting("Item6"), "8");
     }
 
-    // Leaving a tab with an unsaved change asks: Cancel stays and asks again, Discard drops the
-    // change, Save stores it; once answered, nothing is asked on the way.
-    void anUnsavedChangeIsAskedForOnLeaving()
+    // Switches and sliders saved as shown. Leaving a tab with an unsaved change asks: Cancel stays
+    // and asks again, Discard drops the change, Save stores it; once answered, nothing is asked.
+    // The occasions' switch shows the time picker, whose digits are Persian; Escape closes the
+    // options as Done does, once an unsaved change is answered.
+    void settingsAskedForOnLeavingAndTheOccasionsTime()
     {
-        Preferences f("Item0 = 0");
-        auto* settings = f.showTab<SettingController>(1);
-        auto* dawn = settings->findChild<ToggleSwitch*>();
+        Preferences f("Item3 = 15");
+        auto* screen = f.showTab<SettingController>(1);
+        const auto switches = screen->findChildren<ToggleSwitch*>();
+        const auto sliders = screen->findChildren<QSlider*>();
+        QVERIFY(sliders[0]->isVisible());
+        QCOMPARE(sliders[0]->value(), 2);
+        QVERIFY(!sliders[2]->isVisible());
+        f.click(switches[1]);
+        f.click(switches[5]);
+        QVERIFY(sliders[2]->isVisible());
+        QTest::keyClick(sliders[2], Qt::Key_End);
+        QCOMPARE(sliders[2]->accessibleName(), QStringLiteral("وقت افطار: ٦٠ دقیقه قبل"));
+        QTest::keyClick(sliders[0], Qt::Key_Home);
+        f.saveScreenshot(QStringLiteral("preferences-settings.png"));
+        saveRefusedFirst(f, screen, "Item5");
+        QCOMPARE(f.setting("Item0 || ',' || Item1 || ',' || Item2 || ',' || Item3 || ',' || Item4 || ',' || Item5"),
+                 "1,0,1,5,0,60");
+        f.click(switches[5]);
+        QVERIFY(!sliders[2]->isVisible());
         QString asked;
         const auto leave = [&](const char* answer, int tab) {
             asked.clear();
@@ -191,54 +186,47 @@ private slots:
             f.clickTab(tab);
             return f.find<CustomUITabBarController>()->currentIndex();
         };
-        f.click(dawn);
         QCOMPARE(leave("انصراف", 2), 1);
         QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
-        QVERIFY(dawn->isChecked() && settings->saveButton()->isEnabled());
+        QVERIFY(!switches[5]->isChecked() && screen->saveButton()->isEnabled());
         QCOMPARE(leave("دور انداختن", 0), 0);
         QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
-        QVERIFY(!dawn->isChecked());
+        QVERIFY(switches[5]->isChecked());
         f.clickTab(1);
-        f.click(dawn);
+        f.click(switches[0]);
         QCOMPARE(leave("ذخیره", 2), 2);
-        QCOMPARE(f.setting("Item0"), "1");
-        QVERIFY(dawn->isChecked() && !settings->saveButton()->isEnabled());
+        QCOMPARE(f.setting("Item0 || ',' || Item5"), "0,60");
+        QVERIFY(!switches[0]->isChecked() && !screen->saveButton()->isEnabled());
         QCOMPARE(leave("انصراف", 0), 0);
         QVERIFY(asked.isEmpty());
-    }
 
-    // The switch shows the time picker, whose digits are Persian; Escape closes the options as
-    // Done does, once an unsaved change is answered.
-    void theOccasionsTimeAndEscape()
-    {
-        Preferences f;
-        auto* screen = f.showTab<HistoryViewController>(3);
-        auto* picker = screen->findChild<QTimeEdit*>(QStringLiteral("picker"));
+        auto* occasions = f.showTab<HistoryViewController>(3);
+        auto* picker = occasions->findChild<QTimeEdit*>(QStringLiteral("picker"));
         QVERIFY(!picker->isVisible() && !picker->isEnabled());
-        f.click(screen->switchOn());
+        f.click(occasions->switchOn());
         QVERIFY(picker->isVisible() && picker->isEnabled());
         f.saveScreenshot(QStringLiteral("preferences-occasions.png"));
-        saveRefusedFirst(f, screen, "Item7");
+        saveRefusedFirst(f, occasions, "Item7");
         QCOMPARE(f.setting("Item7"), "08:00");
         picker->setFocus();
         QTest::keyClick(picker, Qt::Key_Up);
         QCOMPARE(picker->text(), QStringLiteral("٠٩:٠٠"));
-        QVERIFY(screen->saveButton()->isEnabled());
+        QVERIFY(occasions->saveButton()->isEnabled());
         QTest::keyClick(picker, Qt::Key_Down);
-        QVERIFY2(!screen->saveButton()->isEnabled(), "back at the stored time");
-        f.click(screen->switchOn());
+        QVERIFY2(!occasions->saveButton()->isEnabled(), "back at the stored time");
+        f.click(occasions->switchOn());
         QVERIFY(!picker->isVisible());
-        QString asked;
         answerNextQuestion(QStringLiteral("انصراف"), &asked);
-        QTest::keyClick(screen->switchOn(), Qt::Key_Escape);
+        QTest::keyClick(occasions->switchOn(), Qt::Key_Escape);
         QCOMPARE(asked, QStringLiteral("تغییرات ذخیره شود؟"));
         QCOMPARE(f.presentation->depth(), 2);
         answerNextQuestion(QStringLiteral("ذخیره"), &asked);
-        QTest::keyClick(screen->switchOn(), Qt::Key_Escape);
+        QTest::keyClick(occasions->switchOn(), Qt::Key_Escape);
         QCOMPARE(f.top(), f.main);
         QCOMPARE(f.setting("Item7"), "0");
         QCOMPARE(f.rebuilds, 1);
     }
+
 };
 
 }  // namespace kavenda
