@@ -54,7 +54,8 @@ protected:
     bool mounted(const fs::path& folder, const std::string& options)
     {
         fs::create_directories(folder);
-        const std::string mount = "mount -t tmpfs -o " + options + " kavenda-test '" + folder.string() + "' 2>/dev/null";
+        const std::string mount =
+            "mount -t tmpfs -o " + options + " kavenda-test '" + folder.string() + "' 2>/dev/null";
         if (::geteuid() != 0 || std::system(mount.c_str()) != 0)
             return false;
         mounts.push_back(folder);
@@ -88,8 +89,9 @@ TEST_F(StartupFailures, AShippedDatabaseThatIsMissingOrUnreadableStopsTheStartAn
         fill(install / "resources");
         const fs::path looked = install / "resources" / "Icons";
         EXPECT_EQ(run(dataDir() + "--reminders", "", program),
-                  (Outcome{1, "", "kavenda: cannot read the program's database " + looked.string()
-                                      + "; install the program again\n"}))
+                  (Outcome{1, "",
+                           "kavenda: cannot read the program's database " + looked.string()
+                               + "; install the program again\n"}))
             << what;
         EXPECT_TRUE(!fs::exists(data()) || fs::is_empty(data())) << what;
         fs::remove_all(install);

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/TrayStatus.h"
-#include "desktop/SystemPersianCalendar.h"
 #include "desktop/SingleInstance.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "reminders/ReminderSound.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"

@@ -7,8 +7,8 @@
 #include "calendar/DateTimePersian.h"
 #include "data/MyDB.h"
 #include "data/Statements.h"
-#include "desktop/SystemPersianCalendar.h"
 #include "desktop/Replanning.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "reminders/MyNotification.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
@@ -79,7 +79,9 @@ private slots:
         QVERIFY(horizon.busy());
         QCOMPARE(daysOfTheCalls(notifications).back(), keyOf(1411, 1, 1));  // the last day held
         QVERIFY(settled.wait(120'000));
-        QCOMPARE(std::count(log.lines.begin(), log.lines.end(), "kavenda: added the times and occasions of 1411 to 1412"), 1);
+        QCOMPARE(
+            std::count(log.lines.begin(), log.lines.end(), "kavenda: added the times and occasions of 1411 to 1412"),
+            1);
         QCOMPARE(
             daysOfTheCalls(notifications),
             (std::vector<std::string>{keyOf(1410, 12, 28), keyOf(1410, 12, 29), keyOf(1411, 1, 1), keyOf(1411, 1, 2)}));

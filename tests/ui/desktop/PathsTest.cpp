@@ -33,7 +33,8 @@ private slots:
                 std::filesystem::create_directories(root.path() / "share" / "kavenda");
             if (layout.buildTree)
                 std::filesystem::create_directories(root.path() / "resources");
-            QCOMPARE(DesktopPaths::findResources(root.path() / "bin", "../share/kavenda"), root.path() / layout.expected);
+            QCOMPARE(DesktopPaths::findResources(root.path() / "bin", "../share/kavenda"),
+                     root.path() / layout.expected);
         }
     }
 };

@@ -17,8 +17,8 @@
 #include "tests/support/RecordingNotificationService.h"
 #include "tests/support/RecordingUrlOpener.h"
 #include "tests/support/ScriptedRandom.h"
-#include "tests/support/TempFolder.h"
 #include "tests/support/TehranTime.h"
+#include "tests/support/TempFolder.h"
 #include "widgets/NavigationStack.h"
 #include "widgets/PresentationStack.h"
 

@@ -100,7 +100,9 @@ private slots:
                  QStringLiteral("٢٥، شهادت حضرت فاطمه زهرا (س)، روز بزرگداشت عطار نیشابوری"));
         // Opened on today, 20 Farvardin: selected, its occasion listed.
         QCOMPARE(c.checkedDays(), QList<int>{20});
-        QCOMPARE(c.occasions(), QStringList{QStringLiteral("روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی")});
+        QCOMPARE(c.occasions(),
+                 QStringList{QStringLiteral(
+                     "روز ملی فناوری هسته‌ای؛ روز هنر انقلاب اسلامی")});
         c.saveScreenshot(QStringLiteral("calendar-1392-01.png"));
         // Nothing is held before Farvardin 1392: the arrow back is off, and a tap does nothing.
         QVERIFY(!c.button("previousButton")->isEnabled());
@@ -145,17 +147,21 @@ private slots:
                 QCOMPARE(c.checkedDays(), s.picked ? QList<int>{s.picked} : QList<int>{});
             }
         };
+        // clang-format off
         run({{Qt::Key_Left, 1, 11, "تیر", 10}, {Qt::Key_Left, 1, 12, "تیر", 10}, {Qt::Key_Right, 1, 11, "تیر", 10},
              {Qt::Key_Up, 2, 4, "تیر", 10}, {Qt::Key_Down, 1, 11, "تیر", 10}, {Qt::Key_Down, 3, 25, "تیر", 10}});
+        // clang-format on
         // Only the focused day shows a ring.
         const QColor highlight = c.view->palette().color(QPalette::Highlight);
         for (int number : {18, 25}) {
             const QImage face = c.day(number)->grab().toImage();
             QCOMPARE(face.pixelColor(1, face.height() / 2) == highlight, number == 25);
         }
+        // clang-format off
         run({{Qt::Key_Return, 1, 25, "تیر", 25}, {Qt::Key_Up, 1, 18, "تیر", 25}, {Qt::Key_Space, 1, 18, "تیر", 18},
              {Qt::Key_PageDown, 1, 18, "مرداد", 0}, {Qt::Key_Left, 13, 31, "مرداد", 0},
              {Qt::Key_PageDown, 2, 30, "مهر", 0}, {Qt::Key_PageUp, 1, 30, "شهریور", 0}, {Qt::Key_Home, 1, 10, "تیر", 10}});
+        // clang-format on
         // The grid is one stop of the focus chain, between the arrows and the buttons below, which
         // take Enter.
         c.press(Qt::Key_Tab);

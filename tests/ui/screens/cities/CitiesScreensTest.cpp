@@ -62,8 +62,10 @@ private slots:
         for (int tab = 1; tab <= 3; ++tab)
             QVERIFY2(!tabs->isTabEnabled(tab), qPrintable(QString::number(tab)));
         f.clickTab(2);
-        QAccessible::queryAccessibleInterface(tabs->tabBar())->child(2)->actionInterface()->doAction(
-            QAccessibleActionInterface::pressAction());
+        QAccessible::queryAccessibleInterface(tabs->tabBar())
+            ->child(2)
+            ->actionInterface()
+            ->doAction(QAccessibleActionInterface::pressAction());
         QCOMPARE(tabs->currentIndex(), 0);
         f.clickTab(4);
         QCOMPARE(tabs->currentIndex(), 4);
@@ -73,7 +75,8 @@ private slots:
         searchButton->setFocus();
         QTest::keyClick(searchButton, Qt::Key_Return);
         f.type(f.find<QLineEdit>(QStringLiteral("searchBar")), QStringLiteral("تهران"));
-        QCOMPARE(f.texts(f.results()), (QStringList{QStringLiteral("تهران (تهران)"), QStringLiteral("شهریار (تهران)")}));
+        QCOMPARE(f.texts(f.results()),
+                 (QStringList{QStringLiteral("تهران (تهران)"), QStringLiteral("شهریار (تهران)")}));
         f.clickRow(f.results(), 0);
         QCOMPARE(f.orderings(), QStringList{QStringLiteral("32:1")});
         for (int tab = 1; tab <= 3; ++tab)

@@ -72,10 +72,10 @@ private slots:
         QTest::keyClick(f.editor->slider(1), Qt::Key_Up);
         f.editor->slider(5)->setValue(550);
         f.editor->slider(4)->setValue(-150);
-        QAccessibleValueInterface* value =
-            QAccessible::queryAccessibleInterface(f.editor->slider(4))->valueInterface();
-        QCOMPARE((QList<int>{value->currentValue().toInt(), value->minimumValue().toInt(), value->maximumValue().toInt()}),
-                 (QList<int>{-2, -10, 10}));
+        QAccessibleValueInterface* value = QAccessible::queryAccessibleInterface(f.editor->slider(4))->valueInterface();
+        QCOMPARE(
+            (QList<int>{value->currentValue().toInt(), value->minimumValue().toInt(), value->maximumValue().toInt()}),
+            (QList<int>{-2, -10, 10}));
         value->setCurrentValue(7);
         QCOMPARE(value->currentValue().toInt(), 7);
         value->setCurrentValue(-2);

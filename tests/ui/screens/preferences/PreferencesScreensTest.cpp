@@ -24,7 +24,8 @@ constexpr int mediaTimeout = 30'000;
 
 // The options opened from the main screen with Tehran chosen and these settings stored.
 struct Preferences : test::ScreenFixture {
-    explicit Preferences(const std::string& settings = "") : ScreenFixture(test::tehran(2013, 5, 22, 0, 1), Data::cities)
+    explicit Preferences(const std::string& settings = "")
+        : ScreenFixture(test::tehran(2013, 5, 22, 0, 1), Data::cities)
     {
         choose({32});
         if (!settings.empty())
@@ -226,7 +227,6 @@ private slots:
         QCOMPARE(f.setting("Item7"), "0");
         QCOMPARE(f.rebuilds, 1);
     }
-
 };
 
 }  // namespace kavenda
