@@ -63,11 +63,6 @@ void ScreenFixture::refuse(const std::string& trigger, const std::string& event)
                                 + " BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
 }
 
-std::string ScreenFixture::query(const std::string& sql)
-{
-    return db->ExecuteScaler(sql).value_or("<none>");
-}
-
 QStringList ScreenFixture::orderings()
 {
     QStringList found;
@@ -140,16 +135,6 @@ void ScreenFixture::type(QWidget* field, const QString& text)
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
         QCoreApplication::sendEvent(field, &press);
     }
-}
-
-QWidget* ScreenFixture::citiesTop() const
-{
-    return citiesNavigation()->top();
-}
-
-QWidget* ScreenFixture::top() const
-{
-    return presentation->top();
 }
 
 QList<QStringList> ScreenFixture::pages() const

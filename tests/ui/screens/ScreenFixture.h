@@ -47,7 +47,7 @@ public:
     // Chooses the places in this order (Ordering 0, 1, ...).
     void choose(std::initializer_list<int> stateIds);
     // The first value the query finds, or "<none>"; "id:ordering" of the chosen cities in order.
-    std::string query(const std::string& sql);
+    std::string query(const std::string& sql) { return db->ExecuteScaler(sql).value_or("<none>"); }
     QStringList orderings();
     // Shows the window with the main screen, active; the options opened by its button.
     MainViewController& show();
@@ -60,7 +60,7 @@ public:
     // One key press per letter, as a Persian keyboard sends them (QTest types Latin letters only).
     static void type(QWidget* field, const QString& text);
     // The top of the cities' tab, and that tab's navigation; the search's results.
-    QWidget* citiesTop() const;
+    QWidget* citiesTop() const { return citiesNavigation()->top(); }
     NavigationStack* citiesNavigation() const { return find<NavigationStack>(QStringLiteral("citiesNavigation")); }
     QListWidget* results() const { return find<QListWidget>(QStringLiteral("tblResult")); }
     // A write the database refuses: a trigger of that name before the event ("DELETE ON tStates").
@@ -73,7 +73,7 @@ public:
         const auto shown = std::find_if(all.begin(), all.end(), [](T* widget) { return widget->isVisible(); });
         return shown != all.end() ? *shown : all.value(0);
     }
-    QWidget* top() const;
+    QWidget* top() const { return presentation->top(); }
     // The main screen's pages from left to right, each the texts of its labels in their order.
     QList<QStringList> pages() const;
     void saveScreenshot(const QString& name);
