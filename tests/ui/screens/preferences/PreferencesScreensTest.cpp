@@ -85,7 +85,7 @@ template <typename Screen> void saveRefusedFirst(Preferences& f, Screen* screen,
 
 std::string wav(int number)
 {
-    return std::string(KAVENDA_RESOURCE_DIR "/") + std::to_string(number) + ".wav";
+    return KAVENDA_RESOURCE_DIR "/" + std::to_string(number) + ".wav";
 }
 
 }  // namespace
