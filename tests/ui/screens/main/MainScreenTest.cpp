@@ -136,10 +136,7 @@ private slots:
                 QWidget* focused = QApplication::focusWidget();
                 const QImage after = window->grab().toImage();
                 if (after == before) {
-                    faults << screen + QStringLiteral(": focus unseen on ")
-                            + (focused ? QString::fromLatin1(focused->metaObject()->className()) + QLatin1Char(' ')
-                                       + focused->objectName()
-                                       : QStringLiteral("nothing"));
+                    faults << screen + QStringLiteral(": focus unseen on ") + QDebug::toString(focused);
                     break;
                 }
                 before = after;
