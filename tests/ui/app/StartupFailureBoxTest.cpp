@@ -5,10 +5,8 @@
 #include "data/DatabaseCheck.h"
 #include "tests/support/RecordingLog.h"
 
-#include <QAbstractButton>
-#include <QMessageBox>
-#include <QTimer>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace kavenda {
 
@@ -22,20 +20,17 @@ private slots:
         const auto problem = shippedDatabaseProblem("/nowhere/share/kavenda/Icons");
         QVERIFY(problem);
         test::RecordingLog log;
-        QString text;
-        QString button;
+        QString text, button;
         QTimer::singleShot(0, this, [&] {
             auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-            QVERIFY(box);
+            QVERIFY(box && box->buttons().size() == 1);
             text = box->text();
             button = box->buttons().value(0)->text();
-            QCOMPARE(box->buttons().size(), 1);
             box->buttons().value(0)->click();
         });
         QCOMPARE(reportStartupProblem(*problem, log), 1);
         QCOMPARE(log.lines, std::vector<std::string>{problem->logLine});
         QCOMPARE(text, QString::fromStdString(problem->message));
-        QVERIFY(text.contains(QStringLiteral("/nowhere/share/kavenda/Icons")));
         QCOMPARE(button, QStringLiteral("باشه"));
     }
 };

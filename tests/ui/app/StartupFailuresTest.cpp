@@ -10,7 +10,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <functional>
-#include <iterator>
 #include <string>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -23,49 +22,41 @@ namespace fs = std::filesystem;
 
 struct Outcome {
     int status;
-    std::string out;
-    std::string err;
+    std::string out, err;
+    bool operator==(const Outcome&) const = default;
+    friend std::ostream& operator<<(std::ostream& o, const Outcome& r)
+    {
+        return o << "status " << r.status << ", out \"" << r.out << "\", err \"" << r.err << '"';
+    }
 };
 
-// The real program, as a person or a script starts it, in Iran's zone.
 class StartupFailures : public ::testing::Test {
 protected:
     fs::path data() const { return temp.path() / "data"; }
     fs::path working() const { return data() / "Icons"; }
-    fs::path shipped() const { return fs::path(KAVENDA_RESOURCE_DIR) / "Icons"; }
+    std::string dataDir() const { return "--data-dir '" + data().string() + "' "; }
 
-    // The program with the environment changed (env's own syntax: -u NAME first, then NAME=value),
-    // run in a folder of its own.
-    Outcome run(const std::string& environment, const fs::path& program, const std::string& options) const
+    // The real program, as a person or a script starts it, in Iran's zone and a folder of its own,
+    // with the environment changed (env's own syntax: -u NAME first, then NAME=value).
+    Outcome run(const std::string& options, const std::string& environment = "",
+                const fs::path& program = KAVENDA_PROGRAM) const
     {
-        fs::create_directories(temp.path() / "cwd");
-        const fs::path out = temp.path() / "out";
-        const fs::path err = temp.path() / "err";
-        const std::string command = "cd '" + (temp.path() / "cwd").string() + "' && env " + environment
-            + " TZ=Asia/Tehran QT_QPA_PLATFORM=offscreen '" + program.string() + "' " + options + " >'" + out.string()
-            + "' 2>'" + err.string() + "' </dev/null";
-        const int status = std::system(command.c_str());
+        const fs::path cwd = temp.path() / "cwd", out = temp.path() / "out", err = temp.path() / "err";
+        fs::create_directories(cwd);
+        const int status = std::system(("cd '" + cwd.string() + "' && env " + environment
+                                        + " TZ=Asia/Tehran QT_QPA_PLATFORM=offscreen '" + program.string() + "' "
+                                        + options + " >'" + out.string() + "' 2>'" + err.string() + "' </dev/null")
+                                           .c_str());
         return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, test::fileText(out), test::fileText(err)};
-    }
-
-    Outcome start(const std::string& options, const fs::path& program = KAVENDA_PROGRAM) const
-    {
-        return run("", program, "--data-dir '" + data().string() + "' " + options);
-    }
-
-    Outcome startIn(const std::string& environment, const std::string& options) const
-    {
-        return run(environment, KAVENDA_PROGRAM, options);
     }
 
     // A small file system of its own at the folder, for as long as the test runs.
     bool mounted(const fs::path& folder, const std::string& options)
     {
         fs::create_directories(folder);
-        if (::geteuid() != 0
-            || std::system(
-                   ("mount -t tmpfs -o " + options + " kavenda-test '" + folder.string() + "' 2>/dev/null").c_str())
-                != 0)
+        const std::string mount =
+            "mount -t tmpfs -o " + options + " kavenda-test '" + folder.string() + "' 2>/dev/null";
+        if (::geteuid() != 0 || std::system(mount.c_str()) != 0)
             return false;
         mounts.push_back(folder);
         return true;
@@ -77,26 +68,6 @@ protected:
     }
 
     std::vector<fs::path> mounts;
-
-    // The program installed beside a resource folder of our making.
-    fs::path installedWith(const std::function<void(const fs::path& resources)>& fill) const
-    {
-        const fs::path program = temp.path() / "install" / "bin" / "kavenda";
-        fs::create_directories(program.parent_path());
-        fs::create_directories(temp.path() / "install" / "resources");
-        fs::copy_file(KAVENDA_PROGRAM, program);
-        fill(temp.path() / "install" / "resources");
-        return program;
-    }
-
-    // A working copy of the shipped database with one chosen city and its dawn call on.
-    void workingCopyWithACity() const
-    {
-        fs::create_directories(data());
-        fs::copy_file(shipped(), working());
-        test::execSql(working(), "INSERT INTO tSelectedStates VALUES(32, 0); UPDATE tSetting SET Item0 = 1;");
-    }
-
     test::TempFolder temp;
 };
 
@@ -109,17 +80,21 @@ TEST_F(StartupFailures, AShippedDatabaseThatIsMissingOrUnreadableStopsTheStartAn
         {"a folder", [](const fs::path& resources) { fs::create_directory(resources / "Icons"); }},
     };
     // clang-format on
+    // The program installed beside a resource folder of our making.
+    const fs::path install = temp.path() / "install", program = install / "bin" / "kavenda";
     for (const auto& [what, fill] : installs) {
-        const fs::path program = installedWith(fill);
-        const Outcome result = start("--reminders", program);
-        EXPECT_EQ(result.status, 1) << what;
-        const fs::path looked = program.parent_path().parent_path() / "resources" / "Icons";
-        EXPECT_EQ(result.err,
-                  "kavenda: cannot read the program's database " + looked.string() + "; install the program again\n")
+        fs::create_directories(program.parent_path());
+        fs::create_directories(install / "resources");
+        fs::copy_file(KAVENDA_PROGRAM, program);
+        fill(install / "resources");
+        const fs::path looked = install / "resources" / "Icons";
+        EXPECT_EQ(run(dataDir() + "--reminders", "", program),
+                  (Outcome{1, "",
+                           "kavenda: cannot read the program's database " + looked.string()
+                               + "; install the program again\n"}))
             << what;
-        EXPECT_EQ(result.out, "") << what;
         EXPECT_TRUE(!fs::exists(data()) || fs::is_empty(data())) << what;
-        fs::remove_all(temp.path() / "install");
+        fs::remove_all(install);
     }
 }
 
@@ -128,24 +103,24 @@ TEST_F(StartupFailures, AnEmptyWorkingCopyIsReplacedAndLeftoversRemoved)
     fs::create_directories(data());
     std::ofstream(working()).close();
     std::ofstream(data() / "Icons.partial-777") << "half";
-    const Outcome result = start("--reminders");
+    const Outcome result = run(dataDir() + "--reminders");
     EXPECT_EQ(result.status, 0) << result.err;
-    EXPECT_EQ(test::fileText(working()), test::fileText(shipped()));
+    EXPECT_EQ(test::fileText(working()), test::fileText(fs::path(KAVENDA_RESOURCE_DIR) / "Icons"));
     EXPECT_FALSE(fs::exists(data() / "Icons.partial-777"));
 }
 
 TEST_F(StartupFailures, RemindersWithoutAChosenCitySaySoAndStillSucceed)
 {
-    workingCopyWithACity();
-    Outcome result = start("--reminders");
+    fs::create_directories(data());
+    fs::copy_file(fs::path(KAVENDA_RESOURCE_DIR) / "Icons", working());
+    test::execSql(working(), "INSERT INTO tSelectedStates VALUES(32, 0); UPDATE tSetting SET Item0 = 1;");
+    Outcome result = run(dataDir() + "--reminders");
     EXPECT_EQ(result.status, 0);
     EXPECT_NE(result.out, "");
     EXPECT_EQ(result.err.find("no city"), std::string::npos) << result.err;
     test::execSql(working(), "DELETE FROM tSelectedStates");
-    result = start("--reminders");
-    EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.out, "");
-    EXPECT_EQ(result.err, "kavenda: no city is chosen, so nothing is announced; choose one in the options\n");
+    EXPECT_EQ(run(dataDir() + "--reminders"),
+              (Outcome{0, "", "kavenda: no city is chosen, so nothing is announced; choose one in the options\n"}));
 }
 
 TEST_F(StartupFailures, AWorkingCopyWithoutTheTablesIsReportedAndKept)
@@ -153,7 +128,7 @@ TEST_F(StartupFailures, AWorkingCopyWithoutTheTablesIsReportedAndKept)
     fs::create_directories(data());
     test::execSql(working(), "CREATE TABLE notes(text); INSERT INTO notes VALUES('mine')");
     const std::string before = test::fileText(working());
-    const Outcome result = start("--reminders");
+    const Outcome result = run(dataDir() + "--reminders");
     EXPECT_EQ(result.status, 1);
     EXPECT_NE(result.err.find("kavenda: the database " + working().string() + " lacks tStates"), std::string::npos)
         << result.err;
@@ -168,30 +143,22 @@ TEST_F(StartupFailures, ADataFolderThatCannotBeMadeIsNamedWithItsCause)
     fs::create_directories(home);
     std::ofstream(file) << "mine";
     const std::string h = "HOME='" + home.string() + "' ";
+    const std::string notAFolder = "kavenda: cannot keep the data in " + file.string() + ": it is not a folder\n";
+    const std::string noHome = "kavenda: neither HOME nor XDG_DATA_HOME names a folder for the data; set HOME or "
+                               "start with --data-dir FOLDER\n";
     // clang-format off
     const struct {
         const char* what;
-        std::string environment;
-        std::string options;
-        std::string said;
+        std::string environment, options, said;
     } cases[] = {
-        {"--data-dir names a file",       "-u XDG_DATA_HOME " + h, "--data-dir '" + file.string() + "'",
-         "kavenda: cannot keep the data in " + file.string() + ": it is not a folder\n"},
-        {"XDG_DATA_HOME names a file",    h + "XDG_DATA_HOME='" + file.string() + "'", "",
-         "kavenda: cannot keep the data in " + file.string() + ": it is not a folder\n"},
-        {"no HOME and no XDG_DATA_HOME",  "-u HOME -u XDG_DATA_HOME", "",
-         "kavenda: neither HOME nor XDG_DATA_HOME names a folder for the data; set HOME or start with "
-         "--data-dir FOLDER\n"},
-        {"a relative HOME",               "-u XDG_DATA_HOME HOME=home", "",
-         "kavenda: neither HOME nor XDG_DATA_HOME names a folder for the data; set HOME or start with "
-         "--data-dir FOLDER\n"},
+        {"--data-dir names a file",      "-u XDG_DATA_HOME " + h, "--data-dir '" + file.string() + "'", notAFolder},
+        {"XDG_DATA_HOME names a file",   h + "XDG_DATA_HOME='" + file.string() + "'", "", notAFolder},
+        {"no HOME and no XDG_DATA_HOME", "-u HOME -u XDG_DATA_HOME", "", noHome},
+        {"a relative HOME",              "-u XDG_DATA_HOME HOME=home", "", noHome},
     };
     // clang-format on
     for (const auto& c : cases) {
-        const Outcome result = startIn(c.environment, c.options + " --reminders");
-        EXPECT_EQ(result.status, 1) << c.what;
-        EXPECT_EQ(result.err, c.said) << c.what;
-        EXPECT_EQ(result.out, "") << c.what;
+        EXPECT_EQ(run(c.options + " --reminders", c.environment), (Outcome{1, "", c.said})) << c.what;
         EXPECT_EQ(test::fileText(file), "mine") << c.what;
         EXPECT_TRUE(fs::is_empty(home)) << c.what;
         EXPECT_TRUE(fs::is_empty(temp.path() / "cwd")) << c.what;
@@ -202,7 +169,7 @@ TEST_F(StartupFailures, ARelativeXdgDataHomeIsIgnoredAsTheRulesSay)
 {
     const fs::path home = temp.path() / "home";
     fs::create_directories(home);
-    const Outcome result = startIn("HOME='" + home.string() + "' XDG_DATA_HOME=data", "--reminders");
+    const Outcome result = run("--reminders", "HOME='" + home.string() + "' XDG_DATA_HOME=data");
     EXPECT_EQ(result.status, 0) << result.err;
     EXPECT_TRUE(fs::exists(home / ".local" / "share" / "kavenda" / "Icons"));
     EXPECT_TRUE(fs::is_empty(temp.path() / "cwd"));
@@ -227,9 +194,9 @@ TEST_F(StartupFailures, AReadOnlyFolderOrAFullDiskIsNamedAndNothingIsLeft)
     };
     // clang-format on
     for (const auto& c : cases) {
-        const Outcome result = startIn("", "--data-dir '" + c.dataDir.string() + "' --reminders");
-        EXPECT_EQ(result.status, 1) << c.what;
-        EXPECT_EQ(result.err, "kavenda: cannot keep the data in " + c.named.string() + ": " + c.cause + "\n") << c.what;
+        EXPECT_EQ(run("--data-dir '" + c.dataDir.string() + "' --reminders"),
+                  (Outcome{1, "", "kavenda: cannot keep the data in " + c.named.string() + ": " + c.cause + "\n"}))
+            << c.what;
         EXPECT_TRUE(fs::is_empty(readOnly)) << c.what;
         EXPECT_TRUE(fs::is_empty(full)) << c.what << ": no partial copy, no lock, no folder";
     }

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "app/TrayStatus.h"
-#include "desktop/SystemPersianCalendar.h"
 #include "desktop/SingleInstance.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "reminders/ReminderSound.h"
 #include "tests/support/FixedClock.h"
 #include "tests/support/FixedPaths.h"
@@ -13,25 +13,12 @@
 #include "tests/support/TehranTime.h"
 #include "tests/support/TempFolder.h"
 
-#include <QMenu>
-#include <QSignalSpy>
-#include <QSystemTrayIcon>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace kavenda {
-namespace {
 
 using test::tehran;
-
-QAction* actionNamed(QMenu* menu, const QString& text)
-{
-    for (QAction* action : menu->actions())
-        if (action->text() == text)
-            return action;
-    return nullptr;
-}
-
-}  // namespace
 
 // The tray's tooltip and menu, and the hand-over of a second start, on the offscreen platform.
 class TrayTest : public QObject {
@@ -51,10 +38,8 @@ private slots:
         FixedPaths paths("/documents", KAVENDA_RESOURCE_DIR);
         test::RecordingLog log;
         ReminderSound sound(audio, paths, log);
-
         TrayStatus status(&tray, sound, notifications, clock, calendar);
         QCOMPARE(tray.toolTip(), QGuiApplication::applicationDisplayName());
-
         notifications.schedule(
             {tehran(2026, 11, 23, 5, 20), "Asia/Tehran", "اذان صبح به افق تهران", "Ok", "3.wav", {}});
         const NotificationRecord evening{
@@ -62,17 +47,14 @@ private slots:
         notifications.schedule(evening);
         status.refresh();
         QCOMPARE(tray.toolTip(), QStringLiteral("اذان مغرب به افق تهران، ١٧:١٣ (٢ ساعت و ١٥ دقیقه دیگر)"));
-
-        QAction* stop = actionNamed(&menu, QStringLiteral("توقف اذان"));
-        QVERIFY(stop);
-        QCOMPARE(menu.actions().first(), stop);
+        QAction* stop = menu.actions().first();
+        QCOMPARE(stop->text(), QStringLiteral("توقف اذان"));
         QVERIFY(!stop->isVisible());
         sound.play(evening);
         emit menu.aboutToShow();
         QVERIFY(stop->isVisible());
         stop->trigger();
-        QVERIFY(!audio.playing);
-        QVERIFY(!stop->isVisible());
+        QVERIFY(!audio.playing && !stop->isVisible());
     }
 
     void aSecondStartOnTheSameFolderHandsOverItsWish()
@@ -82,13 +64,11 @@ private slots:
         QVERIFY(!SingleInstance(folder.path()).handOver(false));
         QVERIFY(running.listen());
         QSignalSpy shows(&running, &SingleInstance::showRequested);
-
         QVERIFY(SingleInstance(folder.path() / ".").handOver(true));
         QTest::qWait(200);
         QCOMPARE(shows.count(), 0);
         QVERIFY(SingleInstance(folder.path()).handOver(false));
         QVERIFY(shows.wait(2000));
-        QCOMPARE(shows.count(), 1);
     }
 };
 

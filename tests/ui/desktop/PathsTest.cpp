@@ -13,34 +13,29 @@ class PathsTest : public QObject {
     Q_OBJECT
 
 private slots:
-    void findsTheResourcesOfTheLayoutItRunsIn_data()
-    {
-        QTest::addColumn<bool>("installed");
-        QTest::addColumn<bool>("buildTree");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("installed") << true << false << "share/kavenda";
-        QTest::newRow("build tree") << false << true << "resources";
-        // A prefix that holds some other "resources" folder beside bin/.
-        QTest::newRow("installed beside a resources folder") << true << true << "share/kavenda";
-        // Copied alone: the installed place, which the missing files are then reported in.
-        QTest::newRow("neither") << false << false << "share/kavenda";
-    }
-
     void findsTheResourcesOfTheLayoutItRunsIn()
     {
-        QFETCH(bool, installed);
-        QFETCH(bool, buildTree);
-        QFETCH(QString, expected);
-        const test::TempFolder root;
-        std::filesystem::create_directories(root.path() / "bin");
-        if (installed)
-            std::filesystem::create_directories(root.path() / "share" / "kavenda");
-        if (buildTree)
-            std::filesystem::create_directories(root.path() / "resources");
-
-        const std::filesystem::path found = DesktopPaths::findResources(root.path() / "bin", "../share/kavenda");
-        QCOMPARE(QString::fromStdString(found.string()),
-                 QString::fromStdString((root.path() / expected.toStdString()).string()));
+        const struct {
+            bool installed, buildTree;
+            const char* expected;
+        } layouts[] = {
+            {true, false, "share/kavenda"},
+            {false, true, "resources"},
+            // A prefix that holds some other "resources" folder beside bin/.
+            {true, true, "share/kavenda"},
+            // Copied alone: the installed place, which the missing files are then reported in.
+            {false, false, "share/kavenda"},
+        };
+        for (const auto& layout : layouts) {
+            const test::TempFolder root;
+            std::filesystem::create_directories(root.path() / "bin");
+            if (layout.installed)
+                std::filesystem::create_directories(root.path() / "share" / "kavenda");
+            if (layout.buildTree)
+                std::filesystem::create_directories(root.path() / "resources");
+            QCOMPARE(DesktopPaths::findResources(root.path() / "bin", "../share/kavenda"),
+                     root.path() / layout.expected);
+        }
     }
 };
 

@@ -6,22 +6,14 @@
 #include "app/PersianFont.h"
 #include "data/Statements.h"
 #include "desktop/AudioModule.h"
-#include "screens/cities/CustomUITabBarController.h"
-#include "screens/main/MainViewController.h"
 #include "tests/support/FixtureDatabase.h"
 #include "text/Format.h"
 #include "widgets/Animations.h"
 #include "widgets/EnterPressesButtons.h"
-#include "widgets/NavigationStack.h"
 #include "widgets/Pager.h"
-#include "widgets/PresentationStack.h"
 
-#include <QAbstractButton>
-#include <QDir>
-#include <QLabel>
-#include <QTabBar>
-#include <QVBoxLayout>
 #include <QtTest>
+#include <QtWidgets>
 
 namespace kavenda::test {
 
@@ -30,13 +22,11 @@ namespace {
 std::filesystem::path resourcesFor(const TempFolder& temp, ScreenFixture::Data data)
 {
     const auto folder = temp.path() / "resources";
-    if (data == ScreenFixture::Data::mainScreen)
-        buildFixtureDatabase(folder, {"fixture-data.sql", "main-screen.sql"});
-    else if (data == ScreenFixture::Data::cities)
-        buildFixtureDatabase(folder, {"fixture-data.sql", "offset-city.sql", "cities.sql"});
-    else
+    if (data == ScreenFixture::Data::generated)
         return KAVENDA_RESOURCE_DIR;
-    return folder;
+    if (data == ScreenFixture::Data::mainScreen)
+        return buildFixtureDatabase(folder, {"fixture-data.sql", "main-screen.sql"}).parent_path();
+    return buildFixtureDatabase(folder, {"fixture-data.sql", "offset-city.sql", "cities.sql"}).parent_path();
 }
 
 }  // namespace
@@ -67,9 +57,10 @@ void ScreenFixture::choose(std::initializer_list<int> stateIds)
         QVERIFY(db->ExecuteNonQuery(formatSql(sql::insertChosenCity, {id, ordering++})));
 }
 
-std::string ScreenFixture::query(const std::string& sql)
+void ScreenFixture::refuse(const std::string& trigger, const std::string& event)
 {
-    return db->ExecuteScaler(sql).value_or("<none>");
+    QVERIFY(db->ExecuteNonQuery("CREATE TRIGGER " + trigger + " BEFORE " + event
+                                + " BEGIN SELECT RAISE(ABORT, 'disk full'); END"));
 }
 
 QStringList ScreenFixture::orderings()
@@ -118,11 +109,10 @@ void ScreenFixture::clickTab(int index)
     QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(index).center());
 }
 
-void ScreenFixture::click(const QString& objectName)
+void ScreenFixture::click(QWidget* widget)
 {
-    auto* button = find<QAbstractButton>(objectName);
-    QVERIFY2(button && button->isVisible(), qPrintable(objectName));
-    QTest::mouseClick(button, Qt::LeftButton);
+    QVERIFY(widget && widget->isVisible());
+    QTest::mouseClick(widget, Qt::LeftButton);
 }
 
 void ScreenFixture::clickRow(QListWidget* list, int row)
@@ -145,21 +135,6 @@ void ScreenFixture::type(QWidget* field, const QString& text)
         QKeyEvent press(QEvent::KeyPress, 0, Qt::NoModifier, QString(letter));
         QCoreApplication::sendEvent(field, &press);
     }
-}
-
-NavigationStack* ScreenFixture::citiesNavigation() const
-{
-    return find<NavigationStack>(QStringLiteral("citiesNavigation"));
-}
-
-QWidget* ScreenFixture::citiesTop() const
-{
-    return citiesNavigation()->top();
-}
-
-QWidget* ScreenFixture::top() const
-{
-    return presentation->top();
 }
 
 QList<QStringList> ScreenFixture::pages() const

@@ -3,22 +3,15 @@
 
 #include "calendar/DateTimePersian.h"
 #include "desktop/SystemClock.h"
-#include "screens/cities/CustomUITabBarController.h"
-#include "screens/cities/NewCityController.h"
-#include "screens/cities/SearchController.h"
-#include "screens/main/MainViewController.h"
-#include "tests/support/TehranTime.h"
-#include "tests/ui/AccessibleWalk.h"
 #include "tests/ui/screens/ScreenFixture.h"
 #include "widgets/FocusRingStyle.h"
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
-#include "widgets/PresentationStack.h"
 
-#include <QListWidget>
-#include <QPointer>
-#include <QTabBar>
 #include <QtTest>
+#include <QtWidgets>
+
+#include <algorithm>
 
 namespace kavenda {
 namespace {
@@ -29,9 +22,42 @@ using test::ScreenFixture;
 const Instant summerDay = test::tehran(2013, 7, 1, 12, 0);
 constexpr int tehran = 32, isfahan = 33, mashhad = 34;
 
-QList<QPointer<QWidget>> tracked(const QList<QWidget*>& pages)
+// The roles a control of each kind may be announced with; an empty list for any role but none.
+QList<QAccessible::Role> rolesFor(const QWidget* widget)
 {
-    return {pages.begin(), pages.end()};
+    using R = QAccessible::Role;
+    if (qobject_cast<const QAbstractButton*>(widget))
+        return {R::Button, R::CheckBox, R::RadioButton, R::PageTab, R::Link};
+    if (qobject_cast<const QAbstractSlider*>(widget))
+        return {R::Slider, R::Dial, R::SpinBox};
+    if (qobject_cast<const QLineEdit*>(widget))
+        return {R::EditableText};
+    if (qobject_cast<const QAbstractItemView*>(widget))
+        return {R::List, R::Table, R::Tree};
+    return {};
+}
+
+// Every shown control a person can reach under root that a screen reader could not name in
+// Persian (letters of the Arabic script) or would announce with a role that does not say what
+// it does. Scroll bars are Qt's own, announced by their role.
+QStringList unnamedControls(QWidget* root)
+{
+    QStringList faults;
+    for (QWidget* widget : root->findChildren<QWidget*>()) {
+        if (!widget->isVisibleTo(root) || qobject_cast<QScrollBar*>(widget)
+            || (widget->focusPolicy() == Qt::NoFocus && rolesFor(widget).isEmpty()))
+            continue;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(widget);
+        const QString what = QStringLiteral("%1 \"%2\": ").arg(widget->metaObject()->className(), widget->objectName());
+        const QString name = face ? face->text(QAccessible::Name) : QString();
+        if (std::none_of(name.begin(), name.end(),
+                         [](QChar c) { return c.isLetterOrNumber() && c.script() == QChar::Script_Arabic; }))
+            faults << what + QStringLiteral("name \"%1\"").arg(name);
+        const QList<QAccessible::Role> roles = rolesFor(widget);
+        if (face && (face->role() == QAccessible::NoRole || (!roles.isEmpty() && !roles.contains(face->role()))))
+            faults << what + QStringLiteral("role %1").arg(int(face->role()));
+    }
+    return faults;
 }
 
 }  // namespace
@@ -40,49 +66,43 @@ class MainScreenTest : public QObject {
     Q_OBJECT
 
 private slots:
-    // The last chosen city on the left, the screen opening on the first; the indicator moves the pages.
+    // The last chosen city on the left, the screen opening on the first; the indicator moves the
+    // pages; a rebuild that finds the same cities on the same day keeps its page widgets and opens
+    // on the first city again, another day or another list makes new pages.
     void threeCitiesOpenOnTheFirstAndTheIndicatorMovesThePages()
     {
         ScreenFixture f(summerDay);
         f.choose({tehran, isfahan, mashhad});
         MainViewController& main = f.show();
-        const QList<QStringList> pages = f.pages();
-        QCOMPARE(pages.size(), 3);
-        QCOMPARE((QStringList{pages[0][0], pages[1][0], pages[2][0]}),
-                 (QStringList{QStringLiteral("مشهد"), QStringLiteral("اصفهان"), QStringLiteral("تهران")}));
+        QList<QString> firstLines;
+        for (const QStringList& page : f.pages())
+            firstLines << page[0];
+        QCOMPARE(firstLines, (QStringList{QStringLiteral("مشهد"), QStringLiteral("اصفهان"), QStringLiteral("تهران")}));
         auto* pager = f.find<Pager>(QStringLiteral("scrollView"));
         auto* indicator = f.find<PageIndicator>(QStringLiteral("pageControl"));
         QCOMPARE(pager->contentOffset(), 640.0);
-        QCOMPARE(indicator->numberOfPages(), 3);
         QCOMPARE(indicator->currentPage(), 2);
         f.saveScreenshot(QStringLiteral("main-1392-04-10.png"));
-
-        // A click on a dot goes to its page, a click beside the dots one page that way: through
-        // the window, as the desktop delivers a click, to whichever widget takes it there.
+        // On a dot, its page; beside the dots, one page that way: through the window, as the
+        // desktop delivers a click, to whichever widget takes it there.
         const int middle = indicator->height() / 2;
-        const QList<QPair<QPoint, int>> clicks{
-            {indicator->dotRect(0).center(), 0},
-            {indicator->dotRect(1).center() + QPoint(5, 0), 1},
-            {QPoint(2, middle), 0},
-            {QPoint(2, middle), 0},
-            {QPoint(indicator->width() - 2, middle), 1},
-        };
+        const QList<QPair<QPoint, int>> clicks{{indicator->dotRect(0).center(), 0},
+                                               {indicator->dotRect(1).center() + QPoint(5, 0), 1},
+                                               {QPoint(2, middle), 0},
+                                               {QPoint(2, middle), 0},
+                                               {QPoint(indicator->width() - 2, middle), 1}};
         for (const auto& [at, page] : clicks) {
-            QTest::mouseClick(f.main->window()->windowHandle(), Qt::LeftButton, {},
-                              indicator->mapTo(f.main->window(), at));
+            QTest::mouseClick(main.window()->windowHandle(), Qt::LeftButton, {}, indicator->mapTo(main.window(), at));
             QCOMPARE(indicator->currentPage(), page);
             QTRY_COMPARE(pager->contentOffset(), 320.0 * page);
         }
-
-        // A rebuild that finds the same cities on the same day keeps its page widgets and opens
-        // on the first city again; another day, or another list, makes new pages.
-        const auto before = tracked(pager->pages());
+        const QList<QWidget*> widgets = pager->pages();
+        const QList<QPointer<QWidget>> before(widgets.begin(), widgets.end());
         main.refresh();
         main.closeForm();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        QCOMPARE(tracked(pager->pages()), before);
-        for (const auto& page : before)
-            QVERIFY(page);
+        QCOMPARE(pager->pages(), widgets);
+        QVERIFY(std::all_of(before.begin(), before.end(), [](const auto& page) { return page; }));
         QCOMPARE(pager->contentOffset(), 640.0);
         QCOMPARE(indicator->currentPage(), 2);
         main.closeCalendar(DateTimePersian::initWithPersianDate("920411", f.calendar), nullptr);
@@ -90,8 +110,7 @@ private slots:
         main.Bind();
         QCOMPARE(f.pages().first()[2], QStringLiteral("١١ تیر"));
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        for (const auto& page : before)
-            QVERIFY(!page);
+        QVERIFY(std::none_of(before.begin(), before.end(), [](const auto& page) { return page; }));
         f.choose({65});
         main.refresh();
         QCOMPARE(f.pages().size(), 4);
@@ -105,23 +124,19 @@ private slots:
         QApplication::setStyle(new FocusRingStyle);
         ScreenFixture f(summerDay);
         f.choose({tehran, isfahan});
-        f.show();
+        QWidget* window = f.show().window();
         QStringList faults;
         const auto walk = [&](const QString& screen) {
-            for (const QString& fault : test::unnamedControls(f.top()))
+            for (const QString& fault : unnamedControls(f.top()))
                 faults << screen + QStringLiteral(": ") + fault;
-            QImage before = f.main->window()->grab().toImage();
+            QImage before = window->grab().toImage();
             QWidget* first = nullptr;
             for (int stop = 0; stop < 40; ++stop) {
+                QTest::keyClick(QApplication::focusWidget() ? QApplication::focusWidget() : window, Qt::Key_Tab);
                 QWidget* focused = QApplication::focusWidget();
-                QTest::keyClick(focused ? focused : f.main->window(), Qt::Key_Tab);
-                focused = QApplication::focusWidget();
-                const QImage after = f.main->window()->grab().toImage();
+                const QImage after = window->grab().toImage();
                 if (after == before) {
-                    faults << screen + QStringLiteral(": focus unseen on ")
-                            + (focused ? QString::fromLatin1(focused->metaObject()->className()) + QLatin1Char(' ')
-                                       + focused->objectName()
-                                       : QStringLiteral("nothing"));
+                    faults << screen + QStringLiteral(": focus unseen on ") + QDebug::toString(focused);
                     break;
                 }
                 before = after;
@@ -132,23 +147,17 @@ private slots:
         };
         walk(QStringLiteral("main"));
         f.click(QStringLiteral("calendarButton"));
-        QCOMPARE(f.presentation->depth(), 2);
         walk(QStringLiteral("calendar"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        QCOMPARE(f.top(), f.main);
-
         CustomUITabBarController& tabs = f.openOptions();
         for (int tab = tabs.count() - 1; tab >= 0; --tab) {
             f.clickTab(tab);
-            QCOMPARE(tabs.currentIndex(), tab);
             walk(QStringLiteral("tab ") + tabs.tabText(tab));
         }
         f.click(QStringLiteral("btnSearch"));
-        QVERIFY(f.find<SearchController>());
         walk(QStringLiteral("search"));
         f.click(QStringLiteral("cancelButton"));
         f.clickRow(f.find<QListWidget>(QStringLiteral("createNewCityTable")), 0);
-        QVERIFY(f.find<NewCityController>());
         walk(QStringLiteral("new city"));
         QApplication::setStyle(QStringLiteral("Fusion"));
         QVERIFY2(faults.isEmpty(), qPrintable(faults.join(QLatin1Char('\n'))));
