@@ -3,22 +3,24 @@
 
 #include "widgets/ResourcePixmap.h"
 
+#include <QHash>
 #include <QImageReader>
-#include <QPixmapCache>
 
 namespace kavenda {
 
 QPixmap resourcePixmap(const std::filesystem::path& file)
 {
+    // A handful of small images, kept for the program's life: QPixmapCache would wake the program
+    // half a minute after the first one to see whether it may drop them.
+    static auto* const kept = new QHash<QString, QPixmap>;
     const QString path = QString::fromStdString(file.string());
-    QPixmap pixmap;
-    if (QPixmapCache::find(path, &pixmap))
-        return pixmap;
+    if (const auto found = kept->constFind(path); found != kept->constEnd())
+        return *found;
     QImageReader reader(path, QByteArray::fromStdString(file.extension().string().substr(1)));
     reader.setAutoDetectImageFormat(false);
-    pixmap = QPixmap::fromImage(reader.read());
+    const QPixmap pixmap = QPixmap::fromImage(reader.read());
     if (!pixmap.isNull())
-        QPixmapCache::insert(path, pixmap);
+        kept->insert(path, pixmap);
     return pixmap;
 }
 

@@ -9,9 +9,8 @@
 
 namespace kavenda {
 
-// An image of the program's own, read once and kept in the pixmap cache. Its format is the one
-// its file name says: left to guess, Qt loads every image plugin installed to ask it, which cost
-// more than the first frame's whole drawing.
+// An image of the program's own, read once and kept. Its format is the one its file name says:
+// left to guess, Qt loads every image plugin installed to ask each of them.
 QPixmap resourcePixmap(const std::filesystem::path& file);
 
 }  // namespace kavenda
