@@ -20,7 +20,7 @@ struct CalendarDay {
 long julianDayNumber(int year, int month, int day);
 CivilDate gregorianDate(long julianDayNumber);
 
-// The Persian calendar of Iran as the platforms' calendars (ICU, and so Qt and the desktops)
+// The Persian calendar of Iran as the platforms' calendars (ICU, Qt's and the desktops')
 // compute it: 31-day months to Shahrivar, 30-day months after, and a leap Esfand in 8 years of
 // every 33 (1403 and 1408 are leap, 1407 is not). A day past the end of a month or a month past
 // Esfand runs on into the following ones.

@@ -3,12 +3,12 @@
 
 // The kavenda command. The terminal commands are served here, with the core and SQLite
 // alone; anything else becomes the window program, which loads Qt.
+#include "calendar/DateTimePersian.h"
 #include "cli/CommandLine.h"
 #include "cli/MonthCommand.h"
 #include "cli/ReminderList.h"
 #include "cli/StartClock.h"
 #include "cli/TopUp.h"
-#include "calendar/DateTimePersian.h"
 #include "data/DataHorizon.h"
 #include "data/IntValue.h"
 #include "data/MyDB.h"
@@ -16,10 +16,10 @@
 #include "data/WorkingCopyStart.h"
 #include "desktop/DesktopPaths.h"
 #include "desktop/DeviceRandom.h"
-#include "desktop/SystemPersianCalendar.h"
 #include "desktop/InstanceSocket.h"
 #include "desktop/JournalLog.h"
 #include "desktop/StderrLog.h"
+#include "desktop/SystemPersianCalendar.h"
 #include "reminders/MyNotification.h"
 #include "reminders/ReminderQueue.h"
 
