@@ -58,7 +58,11 @@ bool AppDelegate::didFinishLaunchingWithOptions()
     } catch (...) {
         services_.log->line("asdasd");
     }
-    MyNotification::initialize().update();
+    // The reminders' rebuild shows nowhere in the first frame: it follows the frame.
+    if (startsInBackground_)
+        MyNotification::initialize().update();
+    else
+        launchAfterFirstFrame_ = true;
 
     root_ = new MainViewController({MyDB::initialize(), *services_.clock, *services_.calendar, *services_.screen,
                                     *services_.paths, [] { MyNotification::initialize().update(); }, services_.log,
@@ -90,10 +94,12 @@ bool AppDelegate::didFinishLaunchingWithOptions()
     }
     // Without a tray the reminders still come as desktop notifications; a second start from the
     // menu shows the window.
-    if (startsInBackground_)
+    if (startsInBackground_) {
         inBackground_ = true;
-    else
+        QMetaObject::invokeMethod(this, &AppDelegate::launchFinished, Qt::QueuedConnection);
+    } else {
         showWindow();
+    }
     return true;
 }
 
@@ -150,12 +156,23 @@ void AppDelegate::applyIcon()
 
 void AppDelegate::afterFirstFrame()
 {
+    const bool launching = launchAfterFirstFrame_;
+    launchAfterFirstFrame_ = false;
+    if (launching)
+        MyNotification::initialize().update();
     applyIcon();
     if (trayAfterFirstFrame_) {
         trayAfterFirstFrame_ = false;
         makeTray();
         emit trayAppeared();
     }
+    if (activeAfterFirstFrame_) {
+        activeAfterFirstFrame_ = false;
+        if (!inBackground_)
+            applicationDidBecomeActive();
+    }
+    if (launching)
+        emit launchFinished();
 }
 
 void AppDelegate::makeTray()
@@ -233,6 +250,11 @@ void AppDelegate::enterForeground()
         applicationWillEnterForeground();
     inBackground_ = false;
     launched_ = true;
+    // The first frame shows what this refresh would draw again: it follows the frame.
+    if (!firstFrameSeen_) {
+        activeAfterFirstFrame_ = true;
+        return;
+    }
     QMetaObject::invokeMethod(
         this,
         [this] {

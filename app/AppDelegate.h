@@ -68,6 +68,9 @@ public:
 
 signals:
     void trayAppeared();
+    // The launch's own work is done: after the first frame, or at once for a start in the
+    // background. Work nobody waits for starts then.
+    void launchFinished();
     // The program is about to end: by the tray, the background notice, --quit or a last close.
     void quitRequested();
 
@@ -98,6 +101,8 @@ private:
     bool restartWanted_ = false;
     bool firstFrameSeen_ = false;
     bool trayAfterFirstFrame_ = false;
+    bool launchAfterFirstFrame_ = false;
+    bool activeAfterFirstFrame_ = false;
     bool iconApplied_ = false;
     QString iconFile_;
     bool restartsForTray_ = false;

@@ -164,6 +164,9 @@ int runWindow(int argc, char** argv, bool& restart)
         today = DateTimePersian::init(*clock, calendar).getPersianDate();
     };
 
+    // The coming years are computed once the window is up; nothing on it waits for them.
+    QObject::connect(&delegate, &AppDelegate::launchFinished, &horizon, [&] { horizon.keepAhead(todayKey()); });
+
     if (line->screenshot) {
         const QString file = QString::fromStdString(*line->screenshot);
         // The first screen has settled when the coming years it may show are there too.
@@ -176,7 +179,6 @@ int runWindow(int argc, char** argv, bool& restart)
                 QCoreApplication::exit(saved ? 0 : 1);
             });
         });
-        horizon.keepAhead(todayKey());
         // Beside a running program: nothing is announced from here.
         return app.exec();
     }
@@ -219,7 +221,6 @@ int runWindow(int argc, char** argv, bool& restart)
         if (status)
             status->refresh();
     });
-    horizon.keepAhead(todayKey());
 
     const int exitStatus = app.exec();
     restart = delegate.restartsForTray();
