@@ -3,6 +3,8 @@
 
 #include "widgets/ResourcePixmap.h"
 
+#include "widgets/NetpbmImage.h"
+
 #include <QHash>
 #include <QImageReader>
 
@@ -16,9 +18,16 @@ QPixmap resourcePixmap(const std::filesystem::path& file)
     const QString path = QString::fromStdString(file.string());
     if (const auto found = kept->constFind(path); found != kept->constEnd())
         return *found;
-    QImageReader reader(path, QByteArray::fromStdString(file.extension().string().substr(1)));
-    reader.setAutoDetectImageFormat(false);
-    const QPixmap pixmap = QPixmap::fromImage(reader.read());
+    const std::string format = file.extension().string().substr(1);
+    QImage image;
+    if (format == "ppm" || format == "pam") {
+        image = readNetpbm(file);
+    } else {
+        QImageReader reader(path, QByteArray::fromStdString(format));
+        reader.setAutoDetectImageFormat(false);
+        image = reader.read();
+    }
+    const QPixmap pixmap = QPixmap::fromImage(image);
     if (!pixmap.isNull())
         kept->insert(path, pixmap);
     return pixmap;

@@ -10,7 +10,8 @@
 namespace kavenda {
 
 // An image of the program's own, read once and kept. Its format is the one its file name says:
-// left to guess, Qt loads every image plugin installed to ask each of them.
+// left to guess, Qt loads every image plugin installed to ask each of them. Netpbm files are read
+// without the plugins at all.
 QPixmap resourcePixmap(const std::filesystem::path& file);
 
 }  // namespace kavenda

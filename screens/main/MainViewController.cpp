@@ -43,7 +43,7 @@ QAbstractButton* calendarButton(const std::filesystem::path& resourceFolder, QWi
 {
     auto* button = new QToolButton(parent);
     button->setAutoRaise(true);
-    button->setIcon(QIcon(resourcePixmap(resourceFolder / "calendarBtn.png")));
+    button->setIcon(QIcon(resourcePixmap(resourceFolder / "calendarBtn.pam")));
     button->setIconSize(QSize(34, 32));
     button->setStyleSheet(
         QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"

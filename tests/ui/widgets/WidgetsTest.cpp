@@ -3,11 +3,14 @@
 
 #include "widgets/Animations.h"
 #include "widgets/NavigationStack.h"
+#include "widgets/NetpbmImage.h"
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
 
 #include <QtTest>
 #include <QtWidgets>
+
+#include <fstream>
 
 namespace kavenda {
 namespace {
@@ -27,6 +30,40 @@ class WidgetsTest : public QObject {
 
 private slots:
     void initTestCase() { setAnimationsEnabled(false); }
+
+    // Colour and colour with transparency come back pixel for pixel; anything else reads as
+    // nothing rather than as a garbled image.
+    void netpbmImagesReadBackAsWrittenAndNothingElse()
+    {
+        const QTemporaryDir folder;
+        const auto file = [&](const char* name) { return std::filesystem::path(folder.filePath(name).toStdString()); };
+        QImage image(3, 2, QImage::Format_ARGB32);
+        const QRgb pixels[] = {qRgba(255, 0, 0, 255), qRgba(0, 255, 0, 128), qRgba(0, 0, 255, 0),
+                               qRgba(17, 34, 51, 68), qRgba(255, 255, 255, 255), qRgba(1, 2, 3, 4)};
+        for (int i = 0; i < 6; ++i)
+            image.setPixel(i % 3, i / 3, pixels[i]);
+        QVERIFY(writeNetpbm(image, file("a.pam")));
+        QCOMPARE(readNetpbm(file("a.pam")), image.convertToFormat(QImage::Format_RGBA8888));
+        QVERIFY(writeNetpbm(image, file("a.ppm")));
+        QCOMPARE(readNetpbm(file("a.ppm")), image.convertToFormat(QImage::Format_RGB888));
+        QVERIFY(!writeNetpbm(image, file("a.png")));
+
+        const struct {
+            const char* name;
+            std::string bytes;
+        } broken[] = {
+            {"cut short", "P6\n3 2\n255\n" + std::string(17, 'x')},
+            {"sixteen bits", "P6\n1 1\n65535\n" + std::string(6, 'x')},
+            {"grey", "P7\nWIDTH 1\nHEIGHT 1\nDEPTH 1\nMAXVAL 255\nTUPLTYPE GRAYSCALE\nENDHDR\nx"},
+            {"no size", "P6\n0 0\n255\n"},
+            {"a png", "\x89PNG\r\n\x1a\n"},
+        };
+        for (const auto& b : broken) {
+            std::ofstream(file("b")) << b.bytes;
+            QVERIFY2(readNetpbm(file("b")).isNull(), b.name);
+        }
+        QVERIFY(readNetpbm(file("missing")).isNull());
+    }
 
     // Pages side by side, every offset reported; a drag followed, and snapped to the nearest page.
     void pagerPlacesFollowsADragAndSnaps()
