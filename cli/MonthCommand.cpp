@@ -60,11 +60,11 @@ std::optional<std::string> printedHolding(int year, const Paths& paths, Log& log
 {
     std::error_code absent;
     const bool started =
-        !paths.documentsFolder().empty() && fs::exists(paths.documentsFolder() / "Icons", absent);
+        !paths.documentsFolder().empty() && fs::exists(paths.documentsFolder() / MyDB::sharedFileName, absent);
     std::optional<TemporaryPaths> temporary;
     if (!started)
         temporary.emplace(paths);
-    MyDB db("Icons", started ? paths : *temporary, log);
+    MyDB db(std::string(MyDB::sharedFileName), started ? paths : *temporary, log);
     if (std::optional<std::string> text = print(db))
         return text;
     topUp(log, [&] { return DataHorizon(db.dbPath()).holdThrough(year); });

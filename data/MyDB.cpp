@@ -105,7 +105,7 @@ Log* sharedLog = nullptr;
 MyDB& MyDB::initialize()
 {
     assert(sharedPaths && sharedLog && "the shell sets up the database at start");
-    static MyDB shared("Icons", *sharedPaths, *sharedLog);
+    static MyDB shared(std::string(sharedFileName), *sharedPaths, *sharedLog);
     return shared;
 }
 

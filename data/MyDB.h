@@ -34,6 +34,8 @@ public:
 
     // How long a statement waits for a file that another connection is writing.
     static constexpr int busyTimeoutMilliseconds = 5000;
+    // The shared object's file, in the resources and in the documents folder.
+    static constexpr std::string_view sharedFileName = "Icons";
 
     bool isExist() const;
     std::string getDBPath() const;

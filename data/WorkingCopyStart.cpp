@@ -28,9 +28,14 @@ void takeBackFirstStart(const std::filesystem::path& folder, bool folderExisted)
 
 std::optional<StartupProblem> startWorkingCopy(const Paths& paths, Log& log)
 {
-    if (auto problem = shippedDatabaseProblem(paths.resourceFolder() / "Icons"))
-        return problem;
+    // The shipped file matters only to a start that copies it: a working copy of no bytes is
+    // replaced as a missing one is.
     std::error_code absent;
+    const auto workingSize = std::filesystem::file_size(paths.documentsFolder() / MyDB::sharedFileName, absent);
+    if (absent || workingSize == 0) {
+        if (auto problem = shippedDatabaseProblem(paths.resourceFolder() / MyDB::sharedFileName))
+            return problem;
+    }
     const bool folderExisted = std::filesystem::exists(paths.documentsFolder(), absent);
     if (auto problem = dataFolderProblem(paths.documentsFolder()))
         return problem;

@@ -12,8 +12,8 @@ namespace kavenda {
 class Log;
 class Paths;
 
-// What every start does before it reads the data: checks the shipped file, makes the working
-// copy from it in the data folder when there is none, and checks that copy. The shared MyDB is
+// What every start does before it reads the data: makes the working copy in the data folder from
+// the shipped file, checked first, when there is none, and checks that copy. The shared MyDB is
 // set up on the way. A first start that fails leaves nothing behind. None when all went well.
 std::optional<StartupProblem> startWorkingCopy(const Paths& paths, Log& log);
 

@@ -71,7 +71,7 @@ protected:
     test::TempFolder temp;
 };
 
-TEST_F(StartupFailures, AShippedDatabaseThatIsMissingOrUnreadableStopsTheStartAndCreatesNothing)
+TEST_F(StartupFailures, AShippedDatabaseThatIsMissingOrUnreadableStopsAFirstStartAndCreatesNothing)
 {
     // clang-format off
     const std::pair<const char*, std::function<void(const fs::path&)>> installs[] = {
@@ -94,6 +94,11 @@ TEST_F(StartupFailures, AShippedDatabaseThatIsMissingOrUnreadableStopsTheStartAn
                                + "; install the program again\n"}))
             << what;
         EXPECT_TRUE(!fs::exists(data()) || fs::is_empty(data())) << what;
+        // A start that has its working copy does not read the shipped file.
+        fs::create_directories(data());
+        fs::copy_file(fs::path(KAVENDA_RESOURCE_DIR) / "Icons", working());
+        EXPECT_EQ(run(dataDir() + "--reminders", "", program).status, 0) << what;
+        fs::remove_all(data());
         fs::remove_all(install);
     }
 }
