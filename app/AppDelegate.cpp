@@ -73,28 +73,10 @@ bool AppDelegate::didFinishLaunchingWithOptions()
     connect(new QShortcut(QKeySequence::Quit, window_.get()), &QShortcut::activated, this, &AppDelegate::quit);
     // The program ends by quit() alone (see there).
     QApplication::setQuitOnLastWindowClosed(false);
-    if (QSystemTrayIcon::isSystemTrayAvailable()) {
-        // The tray's icon is decoded when it is made: after the first frame when there is one.
-        if (startsInBackground_)
-            makeTray();
-        else
-            trayAfterFirstFrame_ = true;
-    } else {
-        // A panel started after the program.
-        auto* watch = new TrayWatch(this);
-        connect(watch, &TrayWatch::trayAppeared, this, [this] {
-            makeTray();
-            emit trayAppeared();
-        });
-        connect(watch, &TrayWatch::statusNotifierHostAppeared, this, [this] {
-            restartWanted_ = true;
-            if (!window_->isVisible())
-                restartForTray();
-        });
-    }
     // Without a tray the reminders still come as desktop notifications; a second start from the
     // menu shows the window.
     if (startsInBackground_) {
+        setUpTray();
         inBackground_ = true;
         QMetaObject::invokeMethod(this, &AppDelegate::launchFinished, Qt::QueuedConnection);
     } else {
@@ -161,11 +143,8 @@ void AppDelegate::afterFirstFrame()
     if (launching)
         MyNotification::initialize().update();
     applyIcon();
-    if (trayAfterFirstFrame_) {
-        trayAfterFirstFrame_ = false;
-        makeTray();
-        emit trayAppeared();
-    }
+    if (launching)
+        setUpTray();
     if (activeAfterFirstFrame_) {
         activeAfterFirstFrame_ = false;
         if (!inBackground_)
@@ -173,6 +152,28 @@ void AppDelegate::afterFirstFrame()
     }
     if (launching)
         emit launchFinished();
+}
+
+// Asking for the tray (a round trip to the X server or the session bus) and decoding its icon
+// follow the first frame when there is one.
+void AppDelegate::setUpTray()
+{
+    if (QSystemTrayIcon::isSystemTrayAvailable()) {
+        makeTray();
+        emit trayAppeared();
+        return;
+    }
+    // A panel started after the program.
+    auto* watch = new TrayWatch(this);
+    connect(watch, &TrayWatch::trayAppeared, this, [this] {
+        makeTray();
+        emit trayAppeared();
+    });
+    connect(watch, &TrayWatch::statusNotifierHostAppeared, this, [this] {
+        restartWanted_ = true;
+        if (!window_->isVisible())
+            restartForTray();
+    });
 }
 
 void AppDelegate::makeTray()

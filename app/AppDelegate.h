@@ -63,7 +63,7 @@ public:
     QWidget* window() const { return window_.get(); }
     MainViewController* rootViewController() const;
     // Where the desktop has a tray, closing the window only hides it there; else null, until a
-    // tray appears (a panel that starts after the program).
+    // tray appears (a panel that starts after the program). Null until the first frame too.
     QSystemTrayIcon* tray() const { return tray_; }
 
 signals:
@@ -78,6 +78,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    void setUpTray();
     void makeTray();
     void restartForTray();
     void applyIcon();
@@ -100,7 +101,6 @@ private:
     bool toldInBackground_ = false;
     bool restartWanted_ = false;
     bool firstFrameSeen_ = false;
-    bool trayAfterFirstFrame_ = false;
     bool launchAfterFirstFrame_ = false;
     bool activeAfterFirstFrame_ = false;
     bool iconApplied_ = false;

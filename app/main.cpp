@@ -210,16 +210,20 @@ int runWindow(int argc, char** argv, bool& restart)
             status->refresh();
     };
     QObject::connect(&horizon, &HorizonKeeper::yearsAdded, &delegate, catchUp);
-    Replanning replanning(
-        *clock, calendar, log, [&notifications] { notifications.deliverDue(); },
-        [&](ReplanWatch::Change) {
-            catchUp();
-            horizon.keepAhead(todayKey());
+    // The watch on the clock, the zone and the sleeps joins the system bus: once the window is up.
+    std::unique_ptr<Replanning> replanning;
+    QObject::connect(&delegate, &AppDelegate::launchFinished, &delegate, [&] {
+        replanning = std::make_unique<Replanning>(
+            *clock, calendar, log, [&notifications] { notifications.deliverDue(); },
+            [&](ReplanWatch::Change) {
+                catchUp();
+                horizon.keepAhead(todayKey());
+            });
+        // The minutes left in the tooltip change with the re-planning's minute, on the same wake-up.
+        QObject::connect(replanning.get(), &Replanning::minuteBegan, &delegate, [&] {
+            if (status)
+                status->refresh();
         });
-    // The minutes left in the tooltip change with the re-planning's minute, on the same wake-up.
-    QObject::connect(&replanning, &Replanning::minuteBegan, &delegate, [&] {
-        if (status)
-            status->refresh();
     });
 
     const int exitStatus = app.exec();

@@ -28,11 +28,6 @@ constexpr uchar normalUrgency = 1;
 DesktopNotifier::DesktopNotifier(ReminderSound& sound, const Paths& paths, QSystemTrayIcon* tray)
     : sound_(sound), paths_(paths), tray_(tray)
 {
-    // Any sender: the server's unique name changes when it is restarted.
-    QDBusConnection bus = QDBusConnection::sessionBus();
-    bus.connect(QString(), path, interface, QStringLiteral("ActionInvoked"), this, SLOT(actionInvoked(uint, QString)));
-    bus.connect(QString(), path, interface, QStringLiteral("NotificationClosed"), this,
-                SLOT(notificationClosed(uint, uint)));
 }
 
 void DesktopNotifier::setTray(QSystemTrayIcon* tray)
@@ -66,10 +61,19 @@ void DesktopNotifier::notice(const QString& body, const QString& actionLabel, st
 void DesktopNotifier::send(const QString& body, const QStringList& actions, std::function<void(uint)> shown,
                            std::function<void()> unanswered)
 {
+    // The bus is joined at the first notification, not at start, where it would delay the window.
     QDBusConnection bus = QDBusConnection::sessionBus();
     if (!bus.isConnected()) {
         unanswered();
         return;
+    }
+    if (!listening_) {
+        listening_ = true;
+        // Any sender: the server's unique name changes when it is restarted.
+        bus.connect(QString(), path, interface, QStringLiteral("ActionInvoked"), this,
+                    SLOT(actionInvoked(uint, QString)));
+        bus.connect(QString(), path, interface, QStringLiteral("NotificationClosed"), this,
+                    SLOT(notificationClosed(uint, uint)));
     }
     const QVariantMap hints{
         {QStringLiteral("desktop-entry"), QStringLiteral("kavenda")},

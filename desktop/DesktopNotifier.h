@@ -45,6 +45,7 @@ private:
     QPointer<QSystemTrayIcon> tray_;
     std::map<uint, int> soundOf_;  // notification id, ticket of its sound
     std::map<uint, std::function<void()>> actionOf_;  // notification id, what its action does
+    bool listening_ = false;
 };
 
 }  // namespace kavenda
