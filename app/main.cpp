@@ -12,6 +12,7 @@
 #include "calendar/DateTimePersian.h"
 #include "cli/CommandLine.h"
 #include "cli/StartClock.h"
+#include "cli/WindowEntry.h"
 #include "data/MyDB.h"
 #include "data/WorkingCopyStart.h"
 #include "desktop/AudioModule.h"
@@ -71,10 +72,10 @@ bool canOpenWindow(const std::vector<char*>& qtArguments)
     return platformGiven || named("QT_QPA_PLATFORM") || named("DISPLAY") || named("WAYLAND_DISPLAY");
 }
 
-// The window program's life; `restart` is set when it ended to start again in the background.
+// The window's life; `restart` is set when it ended to start again in the background.
 int runWindow(int argc, char** argv, bool& restart)
 {
-    // The kavenda command checked the options before it handed over to this program.
+    // The kavenda command checked the options before it loaded this module.
     const std::variant<CommandLine, std::string> parsed = CommandLine::parse(argc, argv);
     const CommandLine* line = std::get_if<CommandLine>(&parsed);
     if (!line) {
@@ -233,7 +234,7 @@ int runWindow(int argc, char** argv, bool& restart)
 
 }  // namespace
 
-int main(int argc, char** argv)
+int kavenda_window_main(int argc, char** argv)
 {
     // The worker threads (the data horizon's, Qt's and GLib's) allocate little; an allocation
     // arena of their own would cost half a megabyte of a window that needs thirty.

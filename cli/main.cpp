@@ -2,13 +2,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 // The kavenda command. The terminal commands are served here, with the core and SQLite
-// alone; anything else becomes the window program, which loads Qt.
+// alone; anything else loads the window module, and Qt with it.
 #include "calendar/DateTimePersian.h"
 #include "cli/CommandLine.h"
 #include "cli/MonthCommand.h"
 #include "cli/ReminderList.h"
 #include "cli/StartClock.h"
 #include "cli/TopUp.h"
+#include "cli/WindowEntry.h"
 #include "data/DataHorizon.h"
 #include "data/IntValue.h"
 #include "data/MyDB.h"
@@ -23,36 +24,40 @@
 #include "reminders/MyNotification.h"
 #include "reminders/ReminderQueue.h"
 
-#include <cerrno>
 #include <cstdio>
-#include <cstring>
+#include <dlfcn.h>
 #include <memory>
 #include <string>
-#include <unistd.h>
 #include <variant>
 
 using namespace kavenda;
 
 namespace {
 
-// The window program: installed in the package's own library folder, in the build tree beside this one.
-std::filesystem::path windowProgram()
+// The window module: installed in the package's own library folder, in the build tree beside
+// the command.
+std::filesystem::path windowModule()
 {
     const std::filesystem::path here = DesktopPaths::programFolder();
     const std::filesystem::path installed = (here / KAVENDA_INSTALLED_WINDOW).lexically_normal();
     std::error_code error;
     if (std::filesystem::exists(installed, error))
         return installed;
-    return here / "kavenda-window";
+    return here / "kavenda_window.so";
 }
 
-int openWindow(char** argv)
+// Loads Qt and the window in this process: no second program to start.
+int openWindow(int argc, char** argv)
 {
-    const std::filesystem::path program = windowProgram();
-    // argv[0] stays the command's: the window's class and the process list name it kavenda.
-    ::execv(program.c_str(), argv);
-    std::fprintf(stderr, "kavenda: cannot start the window program %s: %s\n", program.c_str(), std::strerror(errno));
-    return 1;
+    const std::filesystem::path module = windowModule();
+    void* loaded = ::dlopen(module.c_str(), RTLD_LAZY | RTLD_LOCAL);
+    const auto entry =
+        loaded ? reinterpret_cast<decltype(&kavenda_window_main)>(::dlsym(loaded, "kavenda_window_main")) : nullptr;
+    if (!entry) {
+        std::fprintf(stderr, "kavenda: cannot load the window module %s: %s\n", module.c_str(), ::dlerror());
+        return 1;
+    }
+    return entry(argc, argv);
 }
 
 int printReminders(const Clock& clock, const PersianCalendar& calendar, const Paths& paths, Log& log)
@@ -98,7 +103,7 @@ int main(int argc, char** argv)
         return 2;
     }
     if (!line.servedByTerminal())
-        return openWindow(argv);
+        return openWindow(argc, argv);
 
     const DesktopPaths paths(line.dataDir, KAVENDA_INSTALLED_RESOURCES);
     if (line.quit) {

@@ -5,13 +5,29 @@
 
 #include "desktop/AudioModuleEntry.h"
 
-#include <QCoreApplication>
 #include <QDir>
+#include <QFileInfo>
 #include <QLibrary>
 #include <QStringList>
 #include <QtDebug>
 
+#include <dlfcn.h>
+
 namespace kavenda {
+
+namespace {
+
+// The folder of the file this code was loaded from: the window module's, which the audio module
+// lies beside; the command that loaded it lies elsewhere.
+QString ownFolder()
+{
+    Dl_info info{};
+    if (::dladdr(reinterpret_cast<void*>(&ownFolder), &info) == 0 || !info.dli_fname)
+        return {};
+    return QFileInfo(QString::fromLocal8Bit(info.dli_fname)).absolutePath();
+}
+
+}  // namespace
 
 struct AudioModule::Entries {
     decltype(&kavenda_audio_player) player = nullptr;
@@ -21,9 +37,8 @@ struct AudioModule::Entries {
 const AudioModule::Entries& AudioModule::entries()
 {
     static const Entries loaded = [] {
-        const QDir programFolder(QCoreApplication::applicationDirPath());
         const QStringList candidates = {
-            programFolder.filePath(QStringLiteral("kavenda_audio")),
+            QDir(ownFolder()).filePath(QStringLiteral("kavenda_audio")),
             QStringLiteral(KAVENDA_BUILT_AUDIO_MODULE),
         };
         QStringList problems;

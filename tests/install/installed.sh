@@ -58,13 +58,13 @@ entries)
 layout)
     [[ $(ls "$prefix") == $'bin\netc\nlib\nshare' ]] || fail "top folders: $(ls "$prefix" | xargs)"
     [[ $(ls "$prefix/bin") == kavenda ]] || fail "bin holds: $(ls "$prefix/bin" | xargs)"
-    # The window program and the audio module it loads on its first sound, with the entry points
-    # it resolves.
-    [[ $(files_under "$prefix/lib" | xargs) == "kavenda/kavenda-window kavenda/kavenda_audio.so" ]] \
+    # The window module that the command loads, and the audio module the window loads on its
+    # first sound, with the entry points they resolve.
+    [[ $(files_under "$prefix/lib" | xargs) == "kavenda/kavenda_audio.so kavenda/kavenda_window.so" ]] \
         || fail "lib holds: $(files_under "$prefix/lib" | xargs)"
-    for entry in kavenda_audio_player kavenda_audio_playable; do
-        nm -D --defined-only "$prefix/lib/kavenda/kavenda_audio.so" | grep -qw "$entry" \
-            || fail "the audio module lacks $entry"
+    for entry in audio:kavenda_audio_player audio:kavenda_audio_playable window:kavenda_window_main; do
+        nm -D --defined-only "$prefix/lib/kavenda/kavenda_${entry%%:*}.so" | grep -qw "${entry#*:}" \
+            || fail "the ${entry%%:*} module lacks ${entry#*:}"
     done
     [[ $(ls "$prefix/share") == $'applications\ndoc\nicons\nkavenda\nman\nmetainfo' ]] \
         || fail "share holds: $(ls "$prefix/share" | xargs)"
