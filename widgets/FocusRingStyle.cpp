@@ -31,9 +31,14 @@ bool FocusRingStyle::showsFocus(const QWidget* widget)
 
 void FocusRingStyle::drawFocusRing(QPainter* painter, const QRectF& area, const QPalette& palette, double radius)
 {
+    drawRing(painter, area, palette.color(QPalette::Active, QPalette::Highlight), radius);
+}
+
+void FocusRingStyle::drawRing(QPainter* painter, const QRectF& area, const QColor& colour, double radius)
+{
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(palette.color(QPalette::Active, QPalette::Highlight), ringWidth));
+    painter->setPen(QPen(colour, ringWidth));
     painter->setBrush(Qt::NoBrush);
     const double inset = ringWidth / 2.0;
     painter->drawRoundedRect(area.adjusted(inset, inset, -inset, -inset), radius, radius);

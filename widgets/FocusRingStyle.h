@@ -26,6 +26,8 @@ public:
     // Whether a widget shows its focus now: it has it, and the keyboard moved it there.
     static bool showsFocus(const QWidget* widget);
     static void drawFocusRing(QPainter* painter, const QRectF& area, const QPalette& palette, double radius = 3.0);
+    // The same ring in another colour, inside the area.
+    static void drawRing(QPainter* painter, const QRectF& area, const QColor& colour, double radius);
 };
 
 }  // namespace kavenda

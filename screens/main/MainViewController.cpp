@@ -12,13 +12,13 @@
 #include "screens/main/MainTexts.h"
 #include "text/Format.h"
 #include "text/Utility.h"
+#include "widgets/ImageButton.h"
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
 #include "widgets/PresentationStack.h"
 #include "widgets/ResourcePixmap.h"
 
 #include <QPalette>
-#include <QToolButton>
 
 namespace kavenda {
 
@@ -28,27 +28,15 @@ constexpr int tallScreenHeight = 568;
 // The tall screen moves the controls at the bottom down by the extra height.
 constexpr int tallShift = 88;
 
-QAbstractButton* informationButton(QWidget* parent)
+// The "i" in a white ring.
+QAbstractButton* informationButton(const std::filesystem::path& resourceFolder, QWidget* parent)
 {
-    auto* button = new QToolButton(parent);
-    button->setText(QStringLiteral("i"));
-    button->setStyleSheet(QStringLiteral(
-        "QToolButton { color: white; font: bold italic 12px; border: 2px solid white; border-radius: 9px; }"
-        "QToolButton:pressed { background: rgba(255, 255, 255, 90); }"
-        "QToolButton:focus { border-color: palette(highlight); }"));
-    return button;
+    return new ImageButton(resourcePixmap(resourceFolder / "infoBtn.pam"), 9, true, parent);
 }
 
 QAbstractButton* calendarButton(const std::filesystem::path& resourceFolder, QWidget* parent)
 {
-    auto* button = new QToolButton(parent);
-    button->setAutoRaise(true);
-    button->setIcon(QIcon(resourcePixmap(resourceFolder / "calendarBtn.pam")));
-    button->setIconSize(QSize(34, 32));
-    button->setStyleSheet(
-        QStringLiteral("QToolButton { border: none; } QToolButton:pressed { background: rgba(255, 255, 255, 90); }"
-                       "QToolButton:focus { border: 2px solid palette(highlight); border-radius: 4px; }"));
-    return button;
+    return new ImageButton(resourcePixmap(resourceFolder / "calendarBtn.pam"), 4, false, parent);
 }
 
 }  // namespace
@@ -93,7 +81,7 @@ void MainViewController::viewDidLoad()
     pageControl_->setGeometry(0, 425 + shift, 320, 36);
     connect(pageControl_, &PageIndicator::valueChanged, this, &MainViewController::pageAction);
 
-    QAbstractButton* options = informationButton(this);
+    QAbstractButton* options = informationButton(services_.paths.resourceFolder(), this);
     options->setObjectName(QStringLiteral("optionsButton"));
     options->setAccessibleName(texts::main::options);
     options->setGeometry(290, 430 + shift, 18, 19);

@@ -18,6 +18,8 @@ namespace kavenda::artwork {
 QImage mainView();
 // The calendar button, the size of its frame on the main screen.
 QImage calendarButton();
+// The information button's "i", white, the size of the inside of its 18 x 19 ring.
+QImage informationMark();
 // The application icon.
 QImage appIcon(int size);
 // The month calendar's page, 320 x 221, and the backgrounds of its day buttons, 45 x 43.

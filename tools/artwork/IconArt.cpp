@@ -9,6 +9,19 @@
 
 namespace kavenda::artwork {
 
+QImage informationMark()
+{
+    QImage image(14, 15, QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    QPainter painter(&image);
+    QFont font = persianFont(12, true);
+    font.setItalic(true);
+    painter.setFont(font);
+    painter.setPen(Qt::white);
+    painter.drawText(QRectF(image.rect()), Qt::AlignCenter, QStringLiteral("i"));
+    return image;
+}
+
 QImage calendarButton()
 {
     QImage image(34, 32, QImage::Format_ARGB32_Premultiplied);

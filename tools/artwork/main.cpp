@@ -35,6 +35,7 @@ int main(int argc, char** argv)
         // Read before the first frame, raw: no decoding and no image plugins.
         {"MainView.ppm", kavenda::artwork::mainView()},
         {"calendarBtn.pam", kavenda::artwork::calendarButton()},
+        {"infoBtn.pam", kavenda::artwork::informationMark()},
         {"kavenda.png", kavenda::artwork::appIcon(256)},
         {"calendarBG.png", kavenda::artwork::calendarBackground()},
         {"hasEvent.png", kavenda::artwork::dayHasEvent()},

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 
 #include "widgets/Animations.h"
+#include "widgets/FocusRingStyle.h"
+#include "widgets/ImageButton.h"
 #include "widgets/NavigationStack.h"
 #include "widgets/NetpbmImage.h"
 #include "widgets/PageIndicator.h"
@@ -63,6 +65,42 @@ private slots:
             QVERIFY2(readNetpbm(file("b")).isNull(), b.name);
         }
         QVERIFY(readNetpbm(file("missing")).isNull());
+    }
+
+    // The ring is white until the keyboard brings the focus, in the highlight colour; a press
+    // lightens the inside; a click works and leaves the focus where it was.
+    void anImageButtonShowsItsRingItsPressAndTheKeyboardsFocus()
+    {
+        QWidget window;
+        window.setStyle(new FocusRingStyle);
+        QPalette black = window.palette();
+        black.setColor(QPalette::Window, Qt::black);
+        black.setColor(QPalette::Highlight, QColor(0, 120, 215));
+        window.setPalette(black);
+        window.setAutoFillBackground(true);
+        auto* before = new QPushButton(QStringLiteral("x"), &window);
+        QPixmap blank(4, 4);
+        blank.fill(Qt::transparent);
+        auto* button = new ImageButton(blank, 9, true, &window);
+        button->setGeometry(20, 0, 18, 19);
+        window.resize(60, 30);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        const auto at = [&](QPoint point) { return button->grab().toImage().pixelColor(point); };
+        const QPoint ring(1, 9), inside(5, 9);
+        QCOMPARE(at(ring).lightness(), 255);
+        QCOMPARE(at(inside).lightness(), 0);
+        button->setDown(true);
+        QVERIFY2(at(inside).lightness() > 60, "a press lightens the button");
+        button->setDown(false);
+        QSignalSpy clicked(button, &QAbstractButton::clicked);
+        before->setFocus();
+        QTest::mouseClick(button, Qt::LeftButton);
+        QCOMPARE(clicked.size(), 1);
+        QVERIFY(before->hasFocus());
+        QTest::keyClick(&window, Qt::Key_Tab);
+        QVERIFY(button->hasFocus());
+        QCOMPARE(at(ring), QColor(0, 120, 215));
     }
 
     // Pages side by side, every offset reported; a drag followed, and snapped to the nearest page.
