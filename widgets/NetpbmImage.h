@@ -11,7 +11,8 @@ namespace kavenda {
 
 // The raw images of the first frame, read without Qt's image plugins (whose first use scans the
 // plugin folder): P6 for colour (.ppm) and P7 with the tuple type RGB_ALPHA for colour with
-// transparency (.pam), eight bits a channel. Null for any other file.
+// transparency (.pam), eight bits a channel. The image comes in the form a pixmap keeps (RGB32,
+// or premultiplied ARGB32 with transparency). Null for any other file.
 QImage readNetpbm(const std::filesystem::path& file);
 
 // Writes the image in the form its file name says; false when it cannot.
