@@ -31,6 +31,7 @@
 #include "desktop/TerminationSignals.h"
 #include "reminders/MyNotification.h"
 #include "reminders/ReminderSound.h"
+#include "screens/main/CustomUIImageView.h"
 #include "screens/main/MainViewController.h"
 #include "widgets/EnterPressesButtons.h"
 #include "widgets/FocusRingStyle.h"
@@ -97,12 +98,15 @@ int runWindow(int argc, char** argv, bool& restart)
         std::fprintf(stderr, "kavenda: no display to open the window on (set DISPLAY or WAYLAND_DISPLAY)\n");
         return 1;
     }
+    DesktopPaths paths(line->dataDir, KAVENDA_INSTALLED_RESOURCES);
+    // The main page's background decodes while Qt and the fonts start, on the other core.
+    if (!line->background)
+        CustomUIImageView::prefetchBackground(paths.resourceFolder());
     QApplication app(qtArgumentCount, qtArguments.data());
     QCoreApplication::setApplicationName(QStringLiteral("kavenda"));
     QCoreApplication::setApplicationVersion(QStringLiteral(KAVENDA_VERSION));
 
     SystemPersianCalendar calendar;
-    DesktopPaths paths(line->dataDir, KAVENDA_INSTALLED_RESOURCES);
     StderrLog log;
     QtNotificationService notifications(*clock);
     DeviceRandom random;

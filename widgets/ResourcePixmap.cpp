@@ -8,7 +8,36 @@
 #include <QHash>
 #include <QImageReader>
 
+#include <future>
+#include <map>
+
 namespace kavenda {
+
+namespace {
+
+QImage readImage(const std::filesystem::path& file)
+{
+    const std::string format = file.extension().string().substr(1);
+    if (format == "ppm" || format == "pam")
+        return readNetpbm(file);
+    QImageReader reader(QString::fromStdString(file.string()), QByteArray::fromStdString(format));
+    reader.setAutoDetectImageFormat(false);
+    return reader.read();
+}
+
+// Images being read on threads of their own; only the window's thread starts and takes them.
+std::map<std::filesystem::path, std::future<QImage>>& beingRead()
+{
+    static auto* const reads = new std::map<std::filesystem::path, std::future<QImage>>;
+    return *reads;
+}
+
+}  // namespace
+
+void prefetchResourceImage(const std::filesystem::path& file)
+{
+    beingRead().try_emplace(file, std::async(std::launch::async, readImage, file));
+}
 
 QPixmap resourcePixmap(const std::filesystem::path& file)
 {
@@ -18,16 +47,14 @@ QPixmap resourcePixmap(const std::filesystem::path& file)
     const QString path = QString::fromStdString(file.string());
     if (const auto found = kept->constFind(path); found != kept->constEnd())
         return *found;
-    const std::string format = file.extension().string().substr(1);
     QImage image;
-    if (format == "ppm" || format == "pam") {
-        image = readNetpbm(file);
+    if (const auto read = beingRead().find(file); read != beingRead().end()) {
+        image = read->second.get();
+        beingRead().erase(read);
     } else {
-        QImageReader reader(path, QByteArray::fromStdString(format));
-        reader.setAutoDetectImageFormat(false);
-        image = reader.read();
+        image = readImage(file);
     }
-    const QPixmap pixmap = QPixmap::fromImage(image);
+    const QPixmap pixmap = QPixmap::fromImage(std::move(image));
     if (!pixmap.isNull())
         kept->insert(path, pixmap);
     return pixmap;

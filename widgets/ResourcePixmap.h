@@ -14,4 +14,8 @@ namespace kavenda {
 // without the plugins at all.
 QPixmap resourcePixmap(const std::filesystem::path& file);
 
+// Starts reading an image on a thread of its own, for the resourcePixmap() of the same file that
+// follows on the window's thread.
+void prefetchResourceImage(const std::filesystem::path& file);
+
 }  // namespace kavenda

@@ -22,6 +22,7 @@ namespace {
 constexpr int tallScreenTop = 44;
 constexpr int timeRowTop = 108;
 constexpr int timeRowStep = 38;
+constexpr const char* backgroundFile = "MainView.ppm";
 
 }  // namespace
 
@@ -34,7 +35,7 @@ CustomUIImageView::CustomUIImageView(const Row& row, int index, DateTimePersian&
     // The pager gives every page its full height, so the page's own top is kept inside.
     top_ = tallScreen ? tallScreenTop : 0;
     setGeometry(CityPages::pageWidth * index, top_, CityPages::pageWidth, pageHeight);
-    background_ = resourcePixmap(resourceFolder / "MainView.ppm");
+    background_ = resourcePixmap(resourceFolder / backgroundFile);
 
     // Fixed frames: the alignment must not follow the right-to-left layout direction.
     const Qt::Alignment left = Qt::AlignAbsolute | Qt::AlignLeft | Qt::AlignVCenter;
@@ -47,6 +48,11 @@ CustomUIImageView::CustomUIImageView(const Row& row, int index, DateTimePersian&
             ->setAccessibleName(QString::fromStdString(page.timeReading(k)));
     setAccessibleName(QString::fromStdString(page.name()) + texts::main::listSeparator
                       + QString::fromStdString(page.date()));
+}
+
+void CustomUIImageView::prefetchBackground(const std::filesystem::path& resourceFolder)
+{
+    prefetchResourceImage(resourceFolder / backgroundFile);
 }
 
 void CustomUIImageView::paintEvent(QPaintEvent*)

@@ -29,6 +29,9 @@ public:
     CustomUIImageView(const Row& row, int index, DateTimePersian& date, bool tallScreen,
                       const std::filesystem::path& resourceFolder, QWidget* parent = nullptr);
 
+    // Starts reading the page's background, so that the first page does not wait for it.
+    static void prefetchBackground(const std::filesystem::path& resourceFolder);
+
 protected:
     void paintEvent(QPaintEvent* event) override;
 

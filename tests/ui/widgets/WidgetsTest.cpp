@@ -8,6 +8,7 @@
 #include "widgets/NetpbmImage.h"
 #include "widgets/PageIndicator.h"
 #include "widgets/Pager.h"
+#include "widgets/ResourcePixmap.h"
 
 #include <QtTest>
 #include <QtWidgets>
@@ -50,6 +51,9 @@ private slots:
         QCOMPARE(readNetpbm(file("a.ppm")),
                  image.convertToFormat(QImage::Format_RGB888).convertToFormat(QImage::Format_RGB32));
         QVERIFY(!writeNetpbm(image, file("a.png")));
+        // Read ahead on another thread, the same pixels reach the pixmap.
+        prefetchResourceImage(file("a.pam"));
+        QCOMPARE(resourcePixmap(file("a.pam")).toImage(), readNetpbm(file("a.pam")));
 
         const struct {
             const char* name;
