@@ -5,10 +5,18 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QTextLayout>
 
 #include <algorithm>
 
 namespace kavenda {
+
+namespace {
+
+// Wide enough that the one line never breaks.
+constexpr qreal unbrokenLineWidth = 0x01000000;
+
+}  // namespace
 
 ShadowedLabel::ShadowedLabel(const QString& text, const QRect& frame, QPoint offset, QWidget* parent)
     : QLabel(text, parent), offset_(offset)
@@ -21,18 +29,42 @@ ShadowedLabel::ShadowedLabel(const QString& text, const QRect& frame, QPoint off
     setContentsMargins(left, top, right, bottom);
 }
 
-void ShadowedLabel::paintEvent(QPaintEvent* event)
+// Both passes draw one layout, placed in the label's frame as QPainter::drawText places a line
+// in a rectangle. drawText would also ask the font for its leading, which makes Qt load the face
+// a second time, for the script of digits and punctuation, when the face covers no Latin, as
+// Nazli does: a second fontconfig match for every size on the first page.
+void ShadowedLabel::paintEvent(QPaintEvent*)
 {
-    {
-        // The text's own direction, as the label lays it out, so both passes cover each other.
-        const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), this->alignment());
-        const int direction = text().isRightToLeft() ? Qt::TextForceRightToLeft : Qt::TextForceLeftToRight;
-        QPainter painter(this);
-        painter.setPen(Qt::black);
-        style()->drawItemText(&painter, contentsRect().translated(offset_), int(alignment) | direction, palette(),
-                              isEnabled(), text(), QPalette::NoRole);
-    }
-    QLabel::paintEvent(event);
+    if (text().isEmpty())
+        return;
+    QTextLayout layout(text(), font(), this);
+    QTextOption option;
+    option.setTextDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(unbrokenLineWidth);
+    layout.endLayout();
+
+    const QRectF frame = contentsRect();
+    const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), this->alignment());
+    QPointF origin = frame.topLeft();
+    const qreal height = line.ascent() + line.descent();
+    if (alignment & Qt::AlignBottom)
+        origin.ry() += frame.height() - height;
+    else if (alignment & Qt::AlignVCenter)
+        origin.ry() += (frame.height() - height) / 2;
+    if (alignment & Qt::AlignRight)
+        origin.rx() += frame.width() - line.horizontalAdvance();
+    else if (alignment & Qt::AlignHCenter)
+        origin.rx() += (frame.width() - line.horizontalAdvance()) / 2;
+
+    QPainter painter(this);
+    painter.setPen(Qt::black);
+    line.draw(&painter, origin + offset_);
+    painter.setPen(palette().color(foregroundRole()));
+    line.draw(&painter, origin);
 }
 
 }  // namespace kavenda

@@ -3,6 +3,7 @@
 
 #include "calendar/DateTimePersian.h"
 #include "desktop/SystemClock.h"
+#include "screens/main/ShadowedLabel.h"
 #include "tests/ui/screens/ScreenFixture.h"
 #include "widgets/FocusRingStyle.h"
 #include "widgets/PageIndicator.h"
@@ -66,6 +67,44 @@ class MainScreenTest : public QObject {
     Q_OBJECT
 
 private slots:
+    // The shadow is the text's own shape, black, moved by the offset; the text keeps to its side of
+    // the frame and to its middle, whichever way it reads.
+    void aShadowedLabelCastsItsTextAtTheOffsetWhereTheLabelPutsIt()
+    {
+        const QRect frame(10, 10, 150, 40);
+        for (const auto& [text, side] : {std::pair{QStringLiteral("تهران"), Qt::AlignRight},
+                                         std::pair{QStringLiteral("۱۳:۲۹"), Qt::AlignLeft}}) {
+            QWidget page;
+            page.resize(200, 60);
+            QPalette grey = page.palette();
+            grey.setColor(QPalette::Window, Qt::gray);
+            grey.setColor(QPalette::WindowText, Qt::white);
+            page.setPalette(grey);
+            page.setAutoFillBackground(true);
+            auto* label = new ShadowedLabel(text, frame, QPoint(-1, 3), &page);
+            label->setAlignment(Qt::AlignAbsolute | side | Qt::AlignVCenter);
+            QFont font = label->font();
+            font.setPixelSize(20);
+            label->setFont(font);
+            const QImage shot = page.grab().toImage();
+            QRect white, black;
+            for (int y = 0; y < shot.height(); ++y)
+                for (int x = 0; x < shot.width(); ++x) {
+                    const QRgb pixel = shot.pixel(x, y) & 0xffffff;
+                    if (pixel == 0xffffff)
+                        white |= QRect(x, y, 1, 1);
+                    else if (pixel == 0)
+                        black |= QRect(x, y, 1, 1);
+                }
+            QVERIFY2(!white.isEmpty() && !black.isEmpty(), qPrintable(text));
+            QCOMPARE(black.left(), white.left() - 1);
+            QCOMPARE(black.bottom(), white.bottom() + 3);
+            const int gap = side == Qt::AlignRight ? frame.right() - white.right() : white.left() - frame.left();
+            QVERIFY2(gap >= 0 && gap <= 4, qPrintable(QStringLiteral("%1: %2 from its side").arg(text).arg(gap)));
+            QVERIFY2(std::abs(white.center().y() - frame.center().y()) <= 6, qPrintable(text));
+        }
+    }
+
     // The last chosen city on the left, the screen opening on the first; the indicator moves the
     // pages; a rebuild that finds the same cities on the same day keeps its page widgets and opens
     // on the first city again, another day or another list makes new pages.
