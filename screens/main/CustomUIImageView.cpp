@@ -11,7 +11,6 @@
 #include "widgets/AccessibleFactory.h"
 #include "widgets/ResourcePixmap.h"
 
-#include <QFontMetrics>
 #include <QPainter>
 #include <QPalette>
 
@@ -71,8 +70,6 @@ QLabel* CustomUIImageView::addLabel(const QRect& frame, Qt::Alignment alignment,
     QFont font = label->font();
     font.setPixelSize(fontSize);
     label->setFont(font);
-    // A text longer than its frame ends in "…" rather than being cut off at the frame's edge.
-    label->setText(QFontMetrics(font).elidedText(label->text(), Qt::ElideRight, frame.width()));
     // Inside the pager a label inherits the scroll area's Text role, not WindowText.
     QPalette colours = label->palette();
     colours.setColor(QPalette::WindowText, Qt::white);

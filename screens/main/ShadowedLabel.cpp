@@ -5,6 +5,7 @@
 
 #include <QPainter>
 #include <QStyle>
+#include <QEvent>
 #include <QTextLayout>
 
 #include <algorithm>
@@ -29,6 +30,38 @@ ShadowedLabel::ShadowedLabel(const QString& text, const QRect& frame, QPoint off
     setContentsMargins(left, top, right, bottom);
 }
 
+ShadowedLabel::~ShadowedLabel() = default;
+
+void ShadowedLabel::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::FontChange)
+        layout_.reset();
+    QLabel::changeEvent(event);
+}
+
+// One line, elided to the frame's width when it is longer.
+QTextLayout& ShadowedLabel::layout()
+{
+    if (layout_ && laidOut_ == text())
+        return *layout_;
+    laidOut_ = text();
+    QTextOption option;
+    option.setTextDirection(laidOut_.isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
+    option.setFlags(QTextOption::IncludeTrailingSpaces);
+    layout_ = std::make_unique<QTextLayout>(laidOut_, font(), this);
+    layout_->setTextOption(option);
+    for (bool elided = false;; elided = true) {
+        layout_->beginLayout();
+        QTextLine line = layout_->createLine();
+        line.setLineWidth(unbrokenLineWidth);
+        layout_->endLayout();
+        const int width = contentsRect().width();
+        if (elided || line.horizontalAdvance() <= width)
+            return *layout_;
+        layout_->setText(fontMetrics().elidedText(laidOut_, Qt::ElideRight, width));
+    }
+}
+
 // Both passes draw one layout, placed in the label's frame as QPainter::drawText places a line
 // in a rectangle. drawText would also ask the font for its leading, which makes Qt load the face
 // a second time, for the script of digits and punctuation, when the face covers no Latin, as
@@ -37,16 +70,7 @@ void ShadowedLabel::paintEvent(QPaintEvent*)
 {
     if (text().isEmpty())
         return;
-    QTextLayout layout(text(), font(), this);
-    QTextOption option;
-    option.setTextDirection(text().isRightToLeft() ? Qt::RightToLeft : Qt::LeftToRight);
-    option.setFlags(QTextOption::IncludeTrailingSpaces);
-    layout.setTextOption(option);
-    layout.beginLayout();
-    QTextLine line = layout.createLine();
-    line.setLineWidth(unbrokenLineWidth);
-    layout.endLayout();
-
+    const QTextLine line = layout().lineAt(0);
     const QRectF frame = contentsRect();
     const Qt::Alignment alignment = QStyle::visualAlignment(layoutDirection(), this->alignment());
     QPointF origin = frame.topLeft();

@@ -68,12 +68,14 @@ class MainScreenTest : public QObject {
 
 private slots:
     // The shadow is the text's own shape, black, moved by the offset; the text keeps to its side of
-    // the frame and to its middle, whichever way it reads.
+    // the frame and to its middle, whichever way it reads; a text too long for the frame is cut
+    // short on the screen and stays whole for a screen reader.
     void aShadowedLabelCastsItsTextAtTheOffsetWhereTheLabelPutsIt()
     {
         const QRect frame(10, 10, 150, 40);
+        const QString long_ = QStringLiteral("سالروز شهادت امام جعفر صادق علیه السلام");
         for (const auto& [text, side] : {std::pair{QStringLiteral("تهران"), Qt::AlignRight},
-                                         std::pair{QStringLiteral("۱۳:۲۹"), Qt::AlignLeft}}) {
+                                         std::pair{QStringLiteral("۱۳:۲۹"), Qt::AlignLeft}, std::pair{long_, Qt::AlignRight}}) {
             QWidget page;
             page.resize(200, 60);
             QPalette grey = page.palette();
@@ -102,6 +104,8 @@ private slots:
             const int gap = side == Qt::AlignRight ? frame.right() - white.right() : white.left() - frame.left();
             QVERIFY2(gap >= 0 && gap <= 4, qPrintable(QStringLiteral("%1: %2 from its side").arg(text).arg(gap)));
             QVERIFY2(std::abs(white.center().y() - frame.center().y()) <= 6, qPrintable(text));
+            QVERIFY2(white.left() >= frame.left(), qPrintable(text));
+            QCOMPARE(label->text(), text);
         }
     }
 
