@@ -6,7 +6,14 @@
 #include <QApplication>
 #include <QFontDatabase>
 
+#include <fontconfig/fontconfig.h>
+
 namespace kavenda {
+
+void readFontConfiguration()
+{
+    FcInit();
+}
 
 void usePersianFont()
 {

@@ -46,6 +46,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <future>
 #include <malloc.h>
 #include <memory>
 #include <string>
@@ -98,8 +99,10 @@ int runWindow(int argc, char** argv, bool& restart)
         std::fprintf(stderr, "kavenda: no display to open the window on (set DISPLAY or WAYLAND_DISPLAY)\n");
         return 1;
     }
+    // What the first frame needs and Qt does not is read on other cores while Qt starts: the font
+    // configuration, and the main page's background.
+    std::future<void> fontConfiguration = std::async(std::launch::async, readFontConfiguration);
     DesktopPaths paths(line->dataDir, KAVENDA_INSTALLED_RESOURCES);
-    // The main page's background decodes while Qt and the fonts start, on the other core.
     if (!line->background)
         CustomUIImageView::prefetchBackground(paths.resourceFolder());
     QApplication app(qtArgumentCount, qtArguments.data());
@@ -136,6 +139,7 @@ int runWindow(int argc, char** argv, bool& restart)
         }
     }
 
+    fontConfiguration.wait();
     usePersianFont();
     QApplication::setStyle(new FocusRingStyle);
     app.installEventFilter(new EnterPressesButtons(&app));
@@ -240,9 +244,11 @@ int runWindow(int argc, char** argv, bool& restart)
 
 int kavenda_window_main(int argc, char** argv)
 {
-    // The worker threads (the data horizon's, Qt's and GLib's) allocate little; an allocation
-    // arena of their own would cost half a megabyte of a window that needs thirty.
-    mallopt(M_ARENA_MAX, 1);
+    // One allocation arena for the window's thread and one for the others: the font configuration,
+    // read beside Qt's start, allocates as much as Qt does then, and a shared arena would make each
+    // wait for the other. The later threads (the data horizon's, Qt's and GLib's) allocate little;
+    // an arena each would cost half a megabyte of a window that needs thirty.
+    mallopt(M_ARENA_MAX, 2);
     bool restart = false;
     const int status = runWindow(argc, argv, restart);
     if (!restart)
