@@ -119,8 +119,11 @@ int runWindow(int argc, char** argv, bool& restart)
     FixedScreen screen(line->tall);
     const AppServices services{clock.get(), &calendar, &paths,  &log,    &notifications,         &random,
                                &audio,      &urls,     &alerts, &screen, AudioModule::isPlayable};
-    if (const auto problem = startWorkingCopy(paths, log))
+    if (const auto problem = startWorkingCopy(paths, log)) {
+        // Its message box reads fonts too.
+        fontConfiguration.wait();
         return reportStartupProblem(*problem, log);
+    }
     MyNotification::setUp(*clock, calendar, notifications, random, log);
     // The working copy holds the coming years as well: computed when fewer than 400 days lie ahead.
     HorizonKeeper horizon(MyDB::initialize().dbPath(), log);
