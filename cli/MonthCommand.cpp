@@ -122,9 +122,9 @@ int printYear(std::string_view argument, const Clock& clock, const PersianCalend
     const int year =
         argument.empty() ? DateTimePersian::init(clock, calendar).fullYear() : std::stoi(std::string(argument));
     const std::string name = std::to_string(year);
-    return printed(printedHolding(year, paths, log,
-                                  [&](MyDB& db) { return TerminalYear(db, calendar).print(year, colourful()); }),
-                   name.c_str());
+    return printed(
+        printedHolding(year, paths, log, [&](MyDB& db) { return TerminalYear(db, calendar).print(year, colourful()); }),
+        name.c_str());
 }
 
 }  // namespace kavenda

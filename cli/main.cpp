@@ -35,15 +35,14 @@ using namespace kavenda;
 namespace {
 
 // The window module: installed in the package's own library folder, in the build tree beside
-// the command.
+// the command. Where neither is, the installed one is the one missing.
 std::filesystem::path windowModule()
 {
     const std::filesystem::path here = DesktopPaths::programFolder();
     const std::filesystem::path installed = (here / KAVENDA_INSTALLED_WINDOW).lexically_normal();
+    const std::filesystem::path built = here / "kavenda_window.so";
     std::error_code error;
-    if (std::filesystem::exists(installed, error))
-        return installed;
-    return here / "kavenda_window.so";
+    return !std::filesystem::exists(installed, error) && std::filesystem::exists(built, error) ? built : installed;
 }
 
 // Loads Qt and the window in this process: no second program to start.
@@ -54,7 +53,10 @@ int openWindow(int argc, char** argv)
     const auto entry =
         loaded ? reinterpret_cast<decltype(&kavenda_window_main)>(::dlsym(loaded, "kavenda_window_main")) : nullptr;
     if (!entry) {
-        std::fprintf(stderr, "kavenda: cannot load the window module %s: %s\n", module.c_str(), ::dlerror());
+        // The loader's reason names the file.
+        const char* why = ::dlerror();
+        const std::string reason = why ? why : module.string() + ": no window in it";
+        std::fprintf(stderr, "kavenda: cannot open the window: %s; install the program again\n", reason.c_str());
         return 1;
     }
     return entry(argc, argv);

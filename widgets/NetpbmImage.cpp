@@ -74,7 +74,7 @@ Layout arbitraryLayout(Header& header)
     for (std::string_view key = header.word(); !key.empty() && key != "ENDHDR"; key = header.word())
         fields[key] = header.word();
     const bool rgba = Header::numberOf(fields["DEPTH"]) == 4 && fields["MAXVAL"] == "255"
-                   && fields["TUPLTYPE"] == "RGB_ALPHA" && header.endsWithOneOf("\n");
+        && fields["TUPLTYPE"] == "RGB_ALPHA" && header.endsWithOneOf("\n");
     return rgba ? Layout{Header::numberOf(fields["WIDTH"]), Header::numberOf(fields["HEIGHT"]), QImage::Format_RGBA8888}
                 : Layout{};
 }

@@ -3,9 +3,9 @@
 
 #include "screens/main/ShadowedLabel.h"
 
+#include <QEvent>
 #include <QPainter>
 #include <QStyle>
-#include <QEvent>
 #include <QTextLayout>
 
 #include <algorithm>

@@ -103,6 +103,20 @@ TEST_F(StartupFailures, AShippedDatabaseThatIsMissingOrUnreadableStopsAFirstStar
     }
 }
 
+// The command installed without its window module says what is missing instead of failing to start.
+TEST_F(StartupFailures, AWindowWithoutItsModuleSaysWhichFileIsMissing)
+{
+    const fs::path install = temp.path() / "install", program = install / "bin" / "kavenda";
+    fs::create_directories(program.parent_path());
+    fs::copy_file(KAVENDA_PROGRAM, program);
+    const Outcome result = run(dataDir(), "", program);
+    EXPECT_EQ(result.status, 1);
+    const fs::path module = install / "lib" / "kavenda" / "kavenda_window.so";
+    EXPECT_EQ(result.err.rfind("kavenda: cannot open the window: " + module.string() + ": ", 0), 0u) << result.err;
+    EXPECT_NE(result.err.find("; install the program again\n"), std::string::npos) << result.err;
+    EXPECT_FALSE(fs::exists(data()));
+}
+
 TEST_F(StartupFailures, AnEmptyWorkingCopyIsReplacedAndLeftoversRemoved)
 {
     fs::create_directories(data());

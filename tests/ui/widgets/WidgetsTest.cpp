@@ -41,7 +41,7 @@ private slots:
         const QTemporaryDir folder;
         const auto file = [&](const char* name) { return std::filesystem::path(folder.filePath(name).toStdString()); };
         QImage image(3, 2, QImage::Format_ARGB32);
-        const QRgb pixels[] = {qRgba(255, 0, 0, 255), qRgba(0, 255, 0, 128), qRgba(0, 0, 255, 0),
+        const QRgb pixels[] = {qRgba(255, 0, 0, 255), qRgba(0, 255, 0, 128),     qRgba(0, 0, 255, 0),
                                qRgba(17, 34, 51, 68), qRgba(255, 255, 255, 255), qRgba(1, 2, 3, 4)};
         for (int i = 0; i < 6; ++i)
             image.setPixel(i % 3, i / 3, pixels[i]);

@@ -74,8 +74,9 @@ private slots:
     {
         const QRect frame(10, 10, 150, 40);
         const QString long_ = QStringLiteral("سالروز شهادت امام جعفر صادق علیه السلام");
-        for (const auto& [text, side] : {std::pair{QStringLiteral("تهران"), Qt::AlignRight},
-                                         std::pair{QStringLiteral("۱۳:۲۹"), Qt::AlignLeft}, std::pair{long_, Qt::AlignRight}}) {
+        for (const auto& [text, side] :
+             {std::pair{QStringLiteral("تهران"), Qt::AlignRight}, std::pair{QStringLiteral("۱۳:۲۹"), Qt::AlignLeft},
+              std::pair{long_, Qt::AlignRight}}) {
             QWidget page;
             page.resize(200, 60);
             QPalette grey = page.palette();
